@@ -1,0 +1,68 @@
+#include "common/line_input.hpp"
+
+#include <cstring>
+
+#include "common/runtime_failure.hpp"
+#include "common/text.hpp"
+
+namespace benchlog {
+namespace {
+constexpr std::size_t kBufferSize = 1 << 20;
+}
+
+LineReader::LineReader(const std::string& path) : buffer_(kBufferSize) {
+  file_ = std::fopen(path.c_str(), "rb");
+  if (!file_) throw FileNotFound();
+}
+
+LineReader::~LineReader() {
+  if (file_) std::fclose(file_);
+}
+
+bool LineReader::Fill() {
+  if (eof_) return false;
+  begin_ = 0;
+  end_ = std::fread(buffer_.data(), 1, buffer_.size(), file_);
+  if (end_ == 0) eof_ = true;
+  return end_ > 0;
+}
+
+bool LineReader::ReadLine(std::string_view& line) {
+  carry_.clear();
+  bool carrying = false;
+  for (;;) {
+    if (begin_ == end_ && !Fill()) {
+      if (!carrying) return false;
+      line = carry_;
+      return true;
+    }
+    const char* start = buffer_.data() + begin_;
+    const auto* cr = static_cast<const char*>(std::memchr(start, '\r', end_ - begin_));
+    if (!cr) {
+      carry_.append(start, end_ - begin_);
+      carrying = true;
+      begin_ = end_;
+      continue;
+    }
+    const std::size_t length = static_cast<std::size_t>(cr - start);
+    // A CR at the very end of the buffer: keep the line before refilling to look for its LF.
+    const bool inCarry = carrying || begin_ + length + 1 == end_;
+    if (inCarry) carry_.append(start, length);
+    begin_ += length + 1;
+    if (begin_ == end_) Fill();
+    if (begin_ < end_ && buffer_[begin_] == '\n') ++begin_;
+    line = inCarry ? std::string_view(carry_) : std::string_view(start, length);
+    return true;
+  }
+}
+
+bool LineReader::ReadLine(std::string& line) {
+  std::string_view view;
+  if (!ReadLine(view)) return false;
+  line.assign(view);
+  return true;
+}
+
+std::vector<std::string> SplitCrLf(std::string_view text) { return Split(text, "\r\n"); }
+
+}  // namespace benchlog

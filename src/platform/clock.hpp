@@ -1,0 +1,22 @@
+#pragma once
+// Monotonic time and waiting. Waits sleep rather than spin, and tests swap in a manual clock.
+#include <chrono>
+
+namespace benchlog {
+
+class Clock {
+ public:
+  using TimePoint = std::chrono::steady_clock::time_point;
+  using Duration = std::chrono::steady_clock::duration;
+  virtual ~Clock() = default;
+  virtual TimePoint Now() = 0;
+  virtual void Sleep(Duration duration) = 0;
+};
+
+class SystemClock final : public Clock {
+ public:
+  TimePoint Now() override;
+  void Sleep(Duration duration) override;
+};
+
+}  // namespace benchlog

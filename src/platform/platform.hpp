@@ -1,0 +1,27 @@
+#pragma once
+// The platform services a command uses, bundled, and the program's own folders.
+#include <string>
+
+#include "platform/clock.hpp"
+#include "platform/progress.hpp"
+#include "platform/settings_store.hpp"
+#include "platform/shell.hpp"
+#include "platform/ui.hpp"
+
+namespace benchlog {
+
+struct AppPaths {
+  std::string appPath;      // App.Path: the folder of the executable, without a last separator
+  std::string supportPath;  // the folder of the support files, ending in a separator
+};
+
+struct Platform {
+  Ui& ui;
+  SettingsStore& settings;
+  Clock& clock;
+  Shell& shell;
+  Progress& dlgProcessing;
+  AppPaths paths;
+};
+
+}  // namespace benchlog

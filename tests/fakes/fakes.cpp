@@ -1,0 +1,82 @@
+#include "fakes/fakes.hpp"
+
+#include <stdexcept>
+
+#include "common/files.hpp"
+#include "common/runtime_failure.hpp"
+
+namespace benchlog::testing {
+
+std::string MemorySettings::GetSetting(const std::string& section, const std::string& key,
+                                       const std::string& defaultValue) const {
+  const auto found = values.find(section + "/" + key);
+  return found == values.end() ? defaultValue : found->second;
+}
+
+void MemorySettings::SaveSetting(const std::string& section, const std::string& key, const std::string& value) {
+  values[section + "/" + key] = value;
+}
+
+bool MemorySettings::Has(const std::string& section, const std::string& key) const {
+  return values.count(section + "/" + key) != 0;
+}
+
+bool RecordingShell::MoveToTrash(const std::string& path) {
+  trashed.push_back(path);
+  DeleteFileIfExists(path);
+  return true;
+}
+
+namespace {
+template <class T>
+T Next(std::deque<T>& queue, const std::string& what) {
+  if (queue.empty()) throw std::logic_error("ScriptedUi: no answer scripted for " + what);
+  T answer = std::move(queue.front());
+  queue.pop_front();
+  return answer;
+}
+}  // namespace
+
+MsgResult ScriptedUi::MsgBox(const MessageRequest& request) {
+  messages.push_back(request);
+  if (request.buttons == MsgButtons::Ok) return MsgResult::Ok;
+  return Next(msgAnswers, "message box \"" + request.text + "\"");
+}
+
+std::string ScriptedUi::InputBox(const std::string& prompt, const std::string&, const std::string&) {
+  return Next(inputAnswers, "input box \"" + prompt + "\"");
+}
+
+std::string ScriptedUi::FileDialog(const FileDialogRequest& request) {
+  fileDialogs.push_back(request);
+  std::string answer = Next(fileAnswers, "file dialog \"" + request.title + "\"");
+  if (answer.empty()) throw CancelError();
+  return answer;
+}
+
+std::optional<std::uint32_t> ScriptedUi::ColorDialog(const std::string& title, std::uint32_t) {
+  colorTitles.push_back(title);
+  return Next(colorAnswers, "colour dialog \"" + title + "\"");
+}
+
+std::optional<FontChoice> ScriptedUi::FontDialog(const FontChoice&) { return Next(fontAnswers, "font dialog"); }
+
+bool ScriptedUi::PrinterDialog() { return Next(printerAnswers, "printer dialog"); }
+
+void ScriptedUi::ShowModal(DialogModel& model) {
+  modals.push_back(&model);
+  Next(modalActions, std::string("modal dialog ") + typeid(model).name())(model);
+}
+
+std::vector<std::string> ScriptedUi::MessageTexts() const {
+  std::vector<std::string> texts;
+  for (const auto& m : messages) texts.push_back(m.text);
+  return texts;
+}
+
+FakePlatform::FakePlatform(const std::string& appPath)
+    : platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath.empty() ? "" : appPath + "/"}} {
+  progress.observer = [this](const Progress& p) { progressHistory.push_back(p); };
+}
+
+}  // namespace benchlog::testing

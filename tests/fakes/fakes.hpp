@@ -1,0 +1,92 @@
+#pragma once
+// Test doubles of the platform services: a Ui that answers from scripts and records what it was
+// asked, an in-memory settings store, a manual clock and a shell that only records.
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/platform.hpp"
+
+namespace benchlog::testing {
+
+class MemorySettings final : public SettingsStore {
+ public:
+  std::string GetSetting(const std::string& section, const std::string& key,
+                         const std::string& defaultValue) const override;
+  void SaveSetting(const std::string& section, const std::string& key, const std::string& value) override;
+  bool Has(const std::string& section, const std::string& key) const;
+  std::map<std::string, std::string> values;  // "section/key" -> value
+};
+
+class ManualClock final : public Clock {
+ public:
+  TimePoint Now() override { return now; }
+  void Sleep(Duration duration) override {
+    slept += duration;
+    now += duration;
+  }
+  TimePoint now{};
+  Duration slept{};
+};
+
+class RecordingShell final : public Shell {
+ public:
+  bool OpenWithSystem(const std::string& path) override {
+    opened.push_back(path);
+    return true;
+  }
+  bool MoveToTrash(const std::string& path) override;
+  std::vector<std::string> opened, trashed;
+};
+
+// Answers come from queues, filled by the test before the command runs. A question with no
+// answer queued fails the test loudly (std::logic_error), so a script cannot be short silently.
+class ScriptedUi final : public Ui {
+ public:
+  MsgResult MsgBox(const MessageRequest& request) override;
+  std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
+  std::string FileDialog(const FileDialogRequest& request) override;  // "" in the queue means cancel
+  std::optional<std::uint32_t> ColorDialog(const std::string& title, std::uint32_t initial) override;
+  std::optional<FontChoice> FontDialog(const FontChoice& initial) override;
+  bool PrinterDialog() override;
+  void SetHourglass(bool on) override { hourglass = on; }
+  void DoEvents() override { ++doEventsCalls; }
+  void ShowModal(DialogModel& model) override;
+  void ShowModeless(DialogModel& model) override { modeless.push_back(&model); }
+  void Hide(DialogModel& model) override { hidden.push_back(&model); }
+
+  // Scripts.
+  std::deque<MsgResult> msgAnswers;  // only for boxes with a choice; an OK box needs none
+  std::deque<std::string> inputAnswers;
+  std::deque<std::string> fileAnswers;
+  std::deque<std::optional<std::uint32_t>> colorAnswers;
+  std::deque<std::optional<FontChoice>> fontAnswers;
+  std::deque<bool> printerAnswers;
+  std::deque<std::function<void(DialogModel&)>> modalActions;  // each plays the user in one dialog
+
+  // Records.
+  std::vector<MessageRequest> messages;
+  std::vector<FileDialogRequest> fileDialogs;
+  std::vector<std::string> colorTitles;
+  std::vector<DialogModel*> modals, modeless, hidden;
+  bool hourglass = false;
+  int doEventsCalls = 0;
+
+  std::vector<std::string> MessageTexts() const;
+};
+
+// A Platform wired to the fakes above, with App.Path in `appPath`.
+struct FakePlatform {
+  explicit FakePlatform(const std::string& appPath = "");
+  ScriptedUi ui;
+  MemorySettings settings;
+  ManualClock clock;
+  RecordingShell shell;
+  Progress progress;
+  std::vector<Progress> progressHistory;  // a copy at every show, hide and refresh
+  Platform platform;
+};
+
+}  // namespace benchlog::testing
