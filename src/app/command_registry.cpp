@@ -1,0 +1,14 @@
+#include "app/app_commands.hpp"
+#include "app/command_table.hpp"
+
+namespace benchlog {
+
+// Each subsystem registers its own menu commands here; a name that no subsystem registers yet
+// answers with the not-yet-available message.
+CommandTable BuildCommandTable() {
+  CommandTable table;
+  RegisterAppCommands(table);
+  return table;
+}
+
+}  // namespace benchlog
