@@ -28,7 +28,7 @@ class GoldenIndex : public ::testing::TestWithParam<Golden> {};
 TEST_P(GoldenIndex, MatchesTheHandMadeIndex) {
   const Golden& g = GetParam();
   ScratchFolder folder;
-  const std::string dat = folder.CopyFixture(std::string(g.name) + ".dat");
+  const std::string dat = CopyFixture(folder, std::string(g.name) + ".dat");
   for (const char* picture : g.pictures) folder.Write(picture, "");
   const std::string ndx = folder.File(std::string(g.name) + ".ndx");
   FakePlatform fake(folder.Path());
@@ -101,7 +101,7 @@ TEST(BuildMarkIndex, CountsEveryLineAsCrLfEnded) {
 
 TEST(BuildMarkIndex, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
   ScratchFolder folder;
-  const std::string dat = folder.CopyFixture("landmarks.dat");  // 8 Descriptions
+  const std::string dat = CopyFixture(folder, "landmarks.dat");  // 8 Descriptions
   FakePlatform fake(folder.Path());
   fake.progress.max = 5;
   fake.progress.value = 1;
@@ -134,7 +134,7 @@ TEST(BuildMarkIndex, FailureIsShownAndTheOldIndexStays) {
 
 TEST(BuildMarkIndex, AnUnwritableIndexIsReported) {
   ScratchFolder folder;
-  const std::string dat = folder.CopyFixture("single.dat");
+  const std::string dat = CopyFixture(folder, "single.dat");
   FakePlatform fake(folder.Path());
   MarkIndex index;
   EXPECT_FALSE(BuildMarkIndex(dat, folder.File("no/such/folder.ndx"), index, fake.platform));

@@ -39,7 +39,7 @@ TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
 
 TEST(CompressDataset, DropsDeletedDescriptions) {
   ScratchFolder folder;
-  const std::string dat = folder.CopyFixture("blanked.dat");
+  const std::string dat = CopyFixture(folder, "blanked.dat");
   FakePlatform fake(folder.Path());
   EXPECT_EQ(CompressDataset(dat, fake.platform), "");
   EXPECT_EQ(ReadWholeFile(dat), Fixture("blanked_compressed.dat"));

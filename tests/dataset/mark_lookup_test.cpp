@@ -76,7 +76,7 @@ TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
   testing::ScratchFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex index;
-  BuildMarkIndex(folder.CopyFixture("layouts.dat"), folder.File("l.ndx"), index, fake.platform);
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), index, fake.platform);
   const std::string joined = index.Joined();
   for (std::size_t i = 0; i + 6 <= joined.size(); i += 3) {
     const std::string probe = joined.substr(i, 6);
@@ -95,7 +95,7 @@ TEST(MarkLookup, SpansInBothLayouts) {
   testing::ScratchFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex built, loaded;
-  BuildMarkIndex(folder.CopyFixture("layouts.dat"), folder.File("l.ndx"), built, fake.platform);
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), built, fake.platform);
   LoadIndexFile(folder.File("l.ndx"), loaded);
   struct Case {
     const char* pid;
