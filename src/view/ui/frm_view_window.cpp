@@ -35,12 +35,14 @@ FrmViewWindow::FrmViewWindow(frmView& model, QWidget* parent) : ModelDialog(pare
   client_->installEventFilter(this);
   txtViewFile_->viewport()->installEventFilter(this);
 
+  // The caret can move before the text is taken, so both take the caret again.
   connect(txtViewFile_, &QPlainTextEdit::textChanged, this, [this] {
-    if (!filling_) model_.txtViewFile = FromDisplayText(txtViewFile_->toPlainText());
+    if (filling_) return;
+    model_.txtViewFile = FromDisplayText(txtViewFile_->toPlainText());
+    TakeCaret();
   });
   connect(txtViewFile_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
-    if (!filling_)
-      model_.SelStart = ModelPosition(model_.txtViewFile, txtViewFile_->textCursor().position());
+    if (!filling_) TakeCaret();
   });
 }
 
@@ -142,8 +144,12 @@ void FrmViewWindow::Activated() {
   ShowState();
 }
 
-void FrmViewWindow::Clicked() {
+void FrmViewWindow::TakeCaret() {
   model_.SelStart = ModelPosition(model_.txtViewFile, txtViewFile_->textCursor().position());
+}
+
+void FrmViewWindow::Clicked() {
+  TakeCaret();
   model_.FollowClick(HostDatFilePath());
   ShowState();
 }

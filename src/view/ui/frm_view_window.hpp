@@ -45,6 +45,7 @@ class FrmViewWindow : public ModelDialog {
   void CloseView();
   void Activated();
   void Clicked();
+  void TakeCaret();
   void ApplyPlacement();
   void TakePlacement();
   std::string HostDatFilePath() const;
