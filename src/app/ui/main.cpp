@@ -1,8 +1,6 @@
 // Benchlog's start: one instance only, the main window loaded, the splash for a while, then the
 // main window and its menu.
 #include <QApplication>
-#include <QDir>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <memory>
 
@@ -17,6 +15,7 @@
 #include "platform/qt/qt_settings_store.hpp"
 #include "platform/qt/qt_shell.hpp"
 #include "platform/qt/qt_ui.hpp"
+#include "platform/qt/single_instance.hpp"
 #include "platform/qt/text_codec.hpp"
 
 using namespace benchlog;
@@ -27,8 +26,8 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   qt::QtUi ui;
-  QLockFile instanceLock(QDir::temp().filePath("benchlog-" + qEnvironmentVariable("USER") + ".lock"));
-  if (!instanceLock.tryLock(0)) {
+  qt::SingleInstance instance;
+  if (!instance.IsFirst()) {
     ui.MsgBox("Previous instance already running!");
     return 0;
   }
