@@ -28,7 +28,7 @@ import subprocess
 import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-DEFAULT_CSV = "/work/shared/data/spcs83_zones.csv"
+DEFAULT_CSV = os.path.join(HERE, "..", "..", "shared", "data", "spcs83_zones.csv")  # shared/ beside the repository
 DEFAULT_OUT = os.path.join(HERE, "..", "tests", "data", "geodesy")
 GRS80_A = "6378137"
 GRS80_F = "1/298.257222101"

@@ -35,7 +35,7 @@ OBLIQUE_ORIGIN_LONGITUDE_WEST = 101.51383956
 
 LINE_LENGTH = 226
 HERE = os.path.dirname(os.path.abspath(__file__))
-DEFAULT_CSV = "/work/shared/data/spcs83_zones.csv"
+DEFAULT_CSV = os.path.join(HERE, "..", "..", "shared", "data", "spcs83_zones.csv")  # shared/ beside the repository
 DEFAULT_OUT = os.path.join(HERE, "..", "support", "Zones.txt")
 
 
