@@ -24,55 +24,20 @@
 #include "dataset/description_file.hpp"
 #include "dataset/load_dataset_index.hpp"
 #include "dataset_generator.hpp"
+#include "fakes/fakes.hpp"
 
 extern char** environ;
 
 namespace benchlog::bench {
 namespace {
 
-// A Ui that answers nothing and remembers the messages, so a benchmark notices any failure.
-class QuietUi final : public Ui {
- public:
-  MsgResult MsgBox(const MessageRequest& request) override {
-    messages.push_back(request.text);
-    return MsgResult::Ok;
-  }
-  std::string InputBox(const std::string&, const std::string&, const std::string&) override { return ""; }
-  std::string FileDialog(const FileDialogRequest&) override { throw std::logic_error("no file dialog here"); }
-  std::optional<std::uint32_t> ColorDialog(const std::string&, std::uint32_t) override { return {}; }
-  std::optional<FontChoice> FontDialog(const FontChoice&) override { return {}; }
-  bool PrinterDialog() override { return false; }
-  void SetHourglass(bool) override {}
-  void DoEvents() override {}
-  void ShowModal(DialogModel&) override {}
-  void ShowModeless(DialogModel&) override {}
-  void Hide(DialogModel&) override {}
-  std::vector<std::string> messages;
-};
-
-class NoSettings final : public SettingsStore {
- public:
-  std::string GetSetting(const std::string&, const std::string&, const std::string& d) const override { return d; }
-  void SaveSetting(const std::string&, const std::string&, const std::string&) override {}
-};
-
-class NoShell final : public Shell {
- public:
-  bool OpenWithSystem(const std::string&) override { return false; }
-  bool MoveToTrash(const std::string&) override { return false; }
-};
-
+// The scripted platform of the tests: message boxes are recorded, so a failure is noticed.
 struct QuietPlatform {
-  explicit QuietPlatform(const std::string& appPath)
-      : platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath + "/"}} {}
-  QuietUi ui;
-  NoSettings settings;
-  SystemClock clock;
-  NoShell shell;
-  Progress progress;
-  Platform platform;
-  void Check(const char* what) {
-    if (!ui.messages.empty()) throw std::runtime_error(std::string(what) + ": " + ui.messages.front());
+  explicit QuietPlatform(const std::string& appPath) : fake(appPath) { fake.progress.observer = nullptr; }
+  testing::FakePlatform fake;
+  Platform& platform = fake.platform;
+  void Check(const char* what) const {
+    if (!fake.ui.messages.empty()) throw std::runtime_error(std::string(what) + ": " + fake.ui.messages.front().text);
   }
 };
 

@@ -87,8 +87,9 @@ std::optional<Date> ReadDate(std::string_view text) {
   }
   if (month == 0 && numbers.size() == 2 && t[1].text.size() == 4) return Make(numbers[1], numbers[0], 1);
   if (month != 0 && numbers.size() == 2) {
-    // "Mon d yyyy" or "d Mon yyyy": the year is the last number.
-    return Make(numbers[1], month, numbers[0]);
+    // "yyyy Mon d" has the year first; "Mon d yyyy" and "d Mon yyyy" have it last.
+    const bool yearFirst = (t[0].number ? t[0] : t[1]).text.size() >= 3;
+    return yearFirst ? Make(numbers[0], month, numbers[1]) : Make(numbers[1], month, numbers[0]);
   }
   if (month != 0 && numbers.size() == 1 && !t[0].number && t[1].text.size() == 4) return Make(numbers[0], month, 1);
   return std::nullopt;

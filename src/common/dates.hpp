@@ -1,8 +1,8 @@
 #pragma once
 // Calendar dates as the data sheets write them. ReadDate accepts the texts the classic run time
 // takes for dates (US order): "m/d/yyyy", "m/d/yy", "m-d-yyyy", "yyyy/m/d", "yyyy-m-d",
-// "Mon d, yyyy", "Month d yyyy", "d Mon yyyy", "d-Mon-yyyy", "Mon yyyy" (day 1) and "m/yyyy"
-// (day 1). Two-digit years 00-29 are 2000-2029, 30-99 are 1930-1999. A day that the month does
+// "Mon d, yyyy", "Month d yyyy", "d Mon yyyy", "d-Mon-yyyy", "yyyy Mon d", "Mon yyyy" (day 1) and
+// "m/yyyy" (day 1). Month names may be cut to three letters or more, in any case. Two-digit years 00-29 are 2000-2029, 30-99 are 1930-1999. A day that the month does
 // not have is no date.
 #include <optional>
 #include <string>

@@ -29,6 +29,7 @@ std::uint64_t FileLength(const std::string& path) {
 }
 
 std::string ReadWholeFile(const std::string& path) {
+  if (!FileExists(path)) throw FileNotFound();  // a folder opens as a stream but has no length
   std::ifstream in(path, std::ios::binary);
   if (!in) throw FileNotFound();
   std::string text;
@@ -54,7 +55,13 @@ void AppendToFile(const std::string& path, std::string_view text) {
 }
 
 bool IsReadOnly(const std::string& path) {
-  return FileExists(path) && ::access(path.c_str(), W_OK) != 0;
+  if (!FileExists(path)) return false;
+  // access() grants an administrator everything, so a file that no one may write counts as
+  // read-only as well, like the read-only attribute it stands for.
+  std::error_code error;
+  const auto perms = fs::status(path, error).permissions();
+  const auto anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  return ::access(path.c_str(), W_OK) != 0 || (!error && (perms & anyWrite) == fs::perms::none);
 }
 
 void DeleteFileIfExists(const std::string& path) {
@@ -67,11 +74,15 @@ void ReplaceFile(const std::string& from, const std::string& to) {
   fs::rename(from, to, error);
   if (!error) return;
   // Another file system: copy beside the target first, then rename there.
+  if (!FileExists(from)) throw FileNotFound();
   const std::string beside = to + ".new";
   fs::copy_file(from, beside, fs::copy_options::overwrite_existing, error);
-  if (error) throw PathFileAccessError();
-  fs::rename(beside, to, error);
-  if (error) throw PathFileAccessError();
+  if (!error) fs::rename(beside, to, error);
+  if (error) {
+    std::error_code ignored;
+    fs::remove(beside, ignored);
+    throw PathFileAccessError();
+  }
   fs::remove(from, error);
 }
 

@@ -14,10 +14,12 @@ std::string ReadWholeFile(const std::string& path);  // throws "File not found"
 // Creates or overwrites; throws "Path/File access error" when the file cannot be written.
 void WriteWholeFile(const std::string& path, std::string_view text);
 void AppendToFile(const std::string& path, std::string_view text);
-bool IsReadOnly(const std::string& path);  // exists and cannot be opened for writing
+// Exists and cannot be opened for writing, or has no write permission at all (also for root).
+bool IsReadOnly(const std::string& path);
 void DeleteFileIfExists(const std::string& path);
 // Moves `from` over `to` in one step (rename on the same file system, copy and rename otherwise),
-// so that `to` is always either the old file or the new one, whole.
+// so that `to` is always either the old file or the new one, whole. Throws "File not found" when
+// `from` is missing and "Path/File access error" when the move fails; `to` is then untouched.
 void ReplaceFile(const std::string& from, const std::string& to);
 
 }  // namespace benchlog

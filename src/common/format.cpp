@@ -1,9 +1,11 @@
 #include "common/format.hpp"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <string>
 #include <vector>
+
+#include "common/runtime_failure.hpp"
 
 namespace benchlog {
 namespace {
@@ -15,8 +17,9 @@ bool IsPlaceholder(char c) { return c == '0' || c == '#'; }
 // `decimals` fraction digits.
 void RoundedDigits(double magnitude, int decimals, std::string& integer, std::string& fraction) {
   char buffer[64];
-  std::snprintf(buffer, sizeof buffer, "%.14e", magnitude);  // d.dddddddddddddde±xx
-  const std::string text(buffer);
+  // d.dddddddddddddde±xx, with "." whatever the locale says.
+  const auto written = std::to_chars(buffer, buffer + sizeof buffer, magnitude, std::chars_format::scientific, 14);
+  const std::string text(buffer, written.ptr);
   const auto ePos = text.find('e');
   std::string digits = text.substr(0, 1) + text.substr(2, ePos - 2);
   const int exponent = std::stoi(text.substr(ePos + 1));
@@ -66,6 +69,7 @@ std::string IntegerSection(std::string_view section, const std::string& digits) 
   }
   std::size_t placeholders = 0;
   for (char c : tokens) placeholders += IsPlaceholder(c) ? 1 : 0;
+  if (placeholders == 0) return tokens + digits;  // ".00": the integer digits stand before the point
   bool literalsInside = false;
   {
     const auto first = tokens.find_first_of("0#");
@@ -90,10 +94,8 @@ std::string IntegerSection(std::string_view section, const std::string& digits) 
   if (grouping && !literalsInside) {
     std::string number;
     for (const auto& f : fill) number += f;
-    std::string out;
     const auto first = tokens.find_first_of("0#");
     const auto last = tokens.find_last_of("0#");
-    if (first == std::string::npos) return tokens;
     return tokens.substr(0, first) + GroupThousands(number) + tokens.substr(last + 1);
   }
   std::string out;
@@ -128,6 +130,7 @@ std::string FractionSection(std::string_view section, std::string fraction) {
 }  // namespace
 
 std::string Format(double value, std::string_view pattern) {
+  if (!std::isfinite(value)) throw Overflow();
   const auto point = pattern.find('.');
   const std::string_view integerSection = pattern.substr(0, point);
   const std::string_view fractionSection = point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);

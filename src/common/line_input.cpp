@@ -6,10 +6,6 @@
 #include "common/text.hpp"
 
 namespace benchlog {
-namespace {
-constexpr std::size_t kBufferSize = 1 << 20;
-}
-
 LineReader::LineReader(const std::string& path) : buffer_(kBufferSize) {
   file_ = std::fopen(path.c_str(), "rb");
   if (!file_) throw FileNotFound();

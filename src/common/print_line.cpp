@@ -16,6 +16,9 @@ PrintLine& PrintLine::Tab(std::size_t column) {
 
 PrintLine& PrintLine::Write(std::string_view text) {
   text_.append(text);
+  // A line end written inside an item starts a new line for the columns too.
+  const auto lineFeed = text.rfind('\n');
+  if (lineFeed != std::string_view::npos) lineStart_ = text_.size() - text.size() + lineFeed + 1;
   return *this;
 }
 

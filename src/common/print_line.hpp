@@ -9,7 +9,7 @@ namespace benchlog {
 class PrintLine {
  public:
   PrintLine& Tab(std::size_t column);  // a column below 1 counts as 1
-  PrintLine& Write(std::string_view text);
+  PrintLine& Write(std::string_view text);  // a LF inside the text starts the next line at column 1
   // The text written so far with CR LF behind it; the builder starts again empty.
   std::string Finish();
   std::size_t Column() const;  // 1-based column the next character goes to

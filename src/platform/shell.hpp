@@ -10,6 +10,8 @@ class Shell {
   virtual ~Shell() = default;
   virtual bool OpenWithSystem(const std::string& path) = 0;
   virtual bool MoveToTrash(const std::string& path) = 0;
+  // Starts the system's information tool; false when the system has none.
+  virtual bool RunSystemInformation() = 0;
 };
 
 }  // namespace benchlog

@@ -57,6 +57,9 @@ class Ui {
   virtual std::optional<FontChoice> FontDialog(const FontChoice& initial) = 0;
   virtual bool PrinterDialog() = 0;  // false when cancelled
 
+  // Opens the program's manual (an HTML file) in the help window.
+  virtual void ShowHelp(const std::string& helpFile) = 0;
+
   virtual void SetHourglass(bool on) = 0;
   virtual void DoEvents() = 0;  // lets pending window events run
   virtual void ShowModal(DialogModel& model) = 0;

@@ -8,7 +8,7 @@ std::string Fixture(const std::string& name) {
   return ReadWholeFile(std::string(BENCHLOG_TEST_DATA) + "/dataset/" + name);
 }
 
-std::string CopyFixture(const ScratchFolder& folder, const std::string& name) {
+std::string CopyFixture(const TempFolder& folder, const std::string& name) {
   return folder.Write(name, Fixture(name));
 }
 

@@ -3,7 +3,7 @@
 // tests/data/dataset.
 #include <string>
 
-#include "fakes/scratch_folder.hpp"
+#include "fakes/temp_folder.hpp"
 
 namespace benchlog::testing {
 
@@ -11,6 +11,6 @@ namespace benchlog::testing {
 std::string Fixture(const std::string& name);
 
 // Copies tests/data/dataset/<name> into the folder and returns its path there.
-std::string CopyFixture(const ScratchFolder& folder, const std::string& name);
+std::string CopyFixture(const TempFolder& folder, const std::string& name);
 
 }  // namespace benchlog::testing

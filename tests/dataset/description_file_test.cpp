@@ -10,13 +10,13 @@ namespace benchlog {
 namespace {
 
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 // landmarks.dat: 8 Descriptions CD0001..CD0008 at these offsets, 3545 bytes in all.
 constexpr std::size_t kOffsets[] = {1, 471, 897, 1330, 1815, 2234, 2658, 3119, 3546};
 
 struct Landmarks {
-  ScratchFolder folder;
+  TempFolder folder;
   std::string dat = CopyFixture(folder, "landmarks.dat");
   std::string original = Fixture("landmarks.dat");
   MarkIndex index;
@@ -110,7 +110,7 @@ TEST(BlankDescription, ShortSpansAndAZeroOffset) {
       {0, 5, "  \r\nefghijklmnopqrst"},      // offset 0 counts as 1
   };
   for (const auto& c : cases) {
-    ScratchFolder folder;
+    TempFolder folder;
     const std::string dat = folder.Write("t.dat", "abcdefghijklmnopqrst");
     MarkIndex index;
     index.Assign({Rec("PP0001", c.start), Rec("PP0002", c.next), SentinelRecord(20), ""});

@@ -11,11 +11,11 @@ namespace {
 
 using testing::FakePlatform;
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 // A dataset folder and a separate program folder (App.Path), as on a real installation.
 struct Opening {
-  ScratchFolder data, app;
+  TempFolder data, app;
   FakePlatform fake{app.Path()};
   Session session;
   Opening() {

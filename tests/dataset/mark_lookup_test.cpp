@@ -73,7 +73,7 @@ TEST(MarkLookup, AnAbsentPidGivesBlankOrdersAndTheMessage) {
 // The look-up answers exactly as a search of the joined records would, for every six characters
 // that stand anywhere in them, and follows changes of the index.
 TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
-  testing::ScratchFolder folder;
+  testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex index;
   BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), index, fake.platform);
@@ -92,7 +92,7 @@ TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
 // an empty element only adds one blank. AB1236's position line is cut short, so its record is 22
 // characters short: the look-up reads AB1235's end and AB1236's offset out of AB1237's columns.
 TEST(MarkLookup, SpansInBothLayouts) {
-  testing::ScratchFolder folder;
+  testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex built, loaded;
   BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), built, fake.platform);

@@ -13,7 +13,7 @@ namespace {
 // The dataset's cycle: build, blank some Descriptions, compress, build again. The Descriptions
 // that stand come back byte for byte, and the file is exactly their text.
 TEST(DatasetCycle, SurvivingDescriptionsAreUnchanged) {
-  testing::ScratchFolder folder;
+  testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
   const std::string dat = CopyFixture(folder, "landmarks.dat");
   const std::string ndx = folder.File("landmarks.ndx");

@@ -38,6 +38,8 @@ class RecordingShell final : public Shell {
     return true;
   }
   bool MoveToTrash(const std::string& path) override;
+  bool RunSystemInformation() override { return hasSystemInformation; }
+  bool hasSystemInformation = false;
   std::vector<std::string> opened, trashed;
 };
 
@@ -45,12 +47,14 @@ class RecordingShell final : public Shell {
 // answer queued fails the test loudly (std::logic_error), so a script cannot be short silently.
 class ScriptedUi final : public Ui {
  public:
+  using Ui::MsgBox;
   MsgResult MsgBox(const MessageRequest& request) override;
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
   std::string FileDialog(const FileDialogRequest& request) override;  // "" in the queue means cancel
   std::optional<std::uint32_t> ColorDialog(const std::string& title, std::uint32_t initial) override;
   std::optional<FontChoice> FontDialog(const FontChoice& initial) override;
   bool PrinterDialog() override;
+  void ShowHelp(const std::string& helpFile) override { helpShown.push_back(helpFile); }
   void SetHourglass(bool on) override { hourglass = on; }
   void DoEvents() override { ++doEventsCalls; }
   void ShowModal(DialogModel& model) override;
@@ -70,6 +74,7 @@ class ScriptedUi final : public Ui {
   std::vector<MessageRequest> messages;
   std::vector<FileDialogRequest> fileDialogs;
   std::vector<std::string> colorTitles;
+  std::vector<std::string> helpShown;
   std::vector<DialogModel*> modals, modeless, hidden;
   bool hourglass = false;
   int doEventsCalls = 0;

@@ -10,7 +10,7 @@
 #include "app/session.hpp"
 #include "common/files.hpp"
 #include "fakes/fakes.hpp"
-#include "fakes/scratch_folder.hpp"
+#include "fakes/temp_folder.hpp"
 #include "view/frm_view.hpp"
 #include "view/ui/display_text.hpp"
 #include "view/ui/frm_view_window.hpp"
@@ -35,7 +35,7 @@ class FrmViewTest : public QObject {
   }
 
   struct Fixture {
-    testing::ScratchFolder folder;
+    testing::TempFolder folder;
     testing::FakePlatform fake;
     Session session;
     frmView* model = nullptr;

@@ -4,18 +4,18 @@
 #include "app/session.hpp"
 #include "common/files.hpp"
 #include "fakes/fakes.hpp"
-#include "fakes/scratch_folder.hpp"
+#include "fakes/temp_folder.hpp"
 #include "view/frm_view.hpp"
 
 namespace benchlog {
 namespace {
 
 using testing::FakePlatform;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 // A dataset folder where PH0001 has a photo only, SK0002 a sketch only, PS0003 both.
 struct ViewSetup {
-  ScratchFolder folder;
+  TempFolder folder;
   std::string dir = folder.Path() + "/";
   FakePlatform fake;
   frmView view;

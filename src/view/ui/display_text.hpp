@@ -8,7 +8,7 @@
 
 namespace benchlog::qt {
 
-// CR LF and a lone CR become one line break; every byte its Windows-1252 character.
+// CR LF and a lone CR become one line break; every byte its Windows-1252 character (ToQt).
 QString ToDisplayText(const std::string& text);
 // Line breaks become CR LF; characters outside the code page become "?".
 std::string FromDisplayText(const QString& text);

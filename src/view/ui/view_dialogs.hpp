@@ -2,7 +2,7 @@
 // The Qt windows of the viewing subsystem, registered once at start.
 namespace benchlog {
 
-// Registers the window of frmView.
+// Registers the windows of frmView and frmSelectPoints.
 void RegisterViewDialogs();
 
 }  // namespace benchlog

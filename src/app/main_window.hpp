@@ -1,0 +1,30 @@
+#pragma once
+// frmMain's start and end: the load step, the splash wait and the closing step.
+#include <string>
+
+#include "app/session.hpp"
+#include "platform/platform.hpp"
+#include "platform/window_placement.hpp"
+
+namespace benchlog {
+
+inline constexpr const char* kAppTitle = "Benchlog";
+
+// "major.minor.revision" of this build.
+std::string VersionText();
+
+// The load step of the main window. Fills the session (caption, colours, dataset, configuration,
+// index, menu, recent files) and returns the window placement to show. Returns false when support
+// files are missing: the message has been shown and the program must end. Everything after the
+// placement runs with failures ignored, step by step.
+bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& placement);
+
+// The closing step: position and size are saved only in the normal state, the state always.
+void SaveMainWindowPlacement(SettingsStore& settings, const WindowPlacement& placement);
+
+// 5 seconds on the first run (no "Top" saved for frmMain yet), 2 after.
+int SplashSeconds(const SettingsStore& settings);
+// Waits that long without burning the processor.
+void WaitForSplash(Clock& clock, int seconds);
+
+}  // namespace benchlog

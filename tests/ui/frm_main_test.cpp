@@ -1,0 +1,136 @@
+// The main window offscreen: the real menu bar against the expected tree, the keys, the commands
+// and the saved geometry.
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QtTest>
+#include <fstream>
+
+#include "app/command_table.hpp"
+#include "app/main_window.hpp"
+#include "app/menu_tree.hpp"
+#include "app/ui/frm_main.hpp"
+#include "fakes/fakes.hpp"
+
+using namespace benchlog;
+
+namespace {
+
+struct Row {
+  QString name, parent, caption;
+  bool separator;
+};
+
+void Walk(QMenu* menu, QList<Row>& rows) {
+  for (QAction* action : menu->actions()) {
+    rows.push_back({action->objectName(), menu->objectName(), action->isSeparator() ? "" : action->text(),
+                    action->isSeparator()});
+    if (action->menu()) Walk(action->menu(), rows);
+  }
+}
+
+QList<Row> ExpectedRows() {
+  QList<Row> rows;
+  std::ifstream in(BENCHLOG_TEST_DATA "/app/menu_tree.txt");
+  for (std::string line; std::getline(in, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    const QStringList cells = QString::fromStdString(line).split('|');
+    const bool separator = cells[2].isEmpty() && !cells[0].startsWith("mnuFileMRUItem");
+    rows.push_back({cells[0], cells[1], cells[2], separator});
+  }
+  return rows;
+}
+
+}  // namespace
+
+class FrmMainTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void menuTreeMatchesTheProgramsTree() {
+    testing::FakePlatform fake;
+    Session session;
+    InitMenuState(session.menu);
+    const CommandTable commands = BuildCommandTable();
+    qt::FrmMain window(session, fake.platform, commands);
+
+    QList<Row> actual;
+    for (QAction* top : window.menuBar()->actions()) {
+      actual.push_back({top->objectName(), "", top->text(), false});
+      Walk(top->menu(), actual);
+    }
+    const QList<Row> expected = ExpectedRows();
+    QCOMPARE(actual.size(), expected.size());
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+      QCOMPARE(actual[i].name, expected[i].name);
+      QCOMPARE(actual[i].parent, expected[i].parent);
+      QCOMPARE(actual[i].separator, expected[i].separator);
+      if (!expected[i].name.startsWith("mnuFileMRUItem")) QCOMPARE(actual[i].caption, expected[i].caption);
+    }
+    // At the start every entry is enabled; only the recent files and their separator are hidden.
+    for (const auto& row : expected) {
+      QAction* action = window.Action(row.name.toStdString());
+      QVERIFY2(action, qPrintable(row.name));
+      const bool hidden = row.name.startsWith("mnuFileMRU");
+      QCOMPARE(action->isVisible(), !hidden);
+      // Qt reports a hidden action as disabled; the menu state keeps it enabled.
+      QVERIFY2(session.menu[row.name.toStdString()].enabled, qPrintable(row.name));
+      if (!hidden) QVERIFY2(action->isEnabled(), qPrintable(row.name));
+    }
+  }
+
+  void f10RevealsThePositionSearchAndMenusRunCommands() {
+    testing::FakePlatform fake;
+    Session session;
+    InitMenuState(session.menu);
+    session.menu["mnuLatLoninTxt"].visible = false;
+    const CommandTable commands = BuildCommandTable();
+    qt::FrmMain window(session, fake.platform, commands);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(!window.Action("mnuLatLoninTxt")->isVisible());
+    QTest::keyClick(&window, Qt::Key_F10);
+    QVERIFY(window.Action("mnuLatLoninTxt")->isVisible());
+
+    window.Action("mnuPlot")->trigger();
+    QCOMPARE(fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
+    fake.ui.colorAnswers.push_back(std::uint32_t{0x00FF00});
+    window.Action("mnuSetBackColor")->trigger();
+    QCOMPARE(window.palette().color(QPalette::Window), QColor(0, 255, 0));
+  }
+
+  void geometryRoundTrip() {
+    testing::FakePlatform fake;
+    Session session;
+    InitMenuState(session.menu);
+    const CommandTable commands = BuildCommandTable();
+    {
+      qt::FrmMain window(session, fake.platform, commands);
+      window.ApplyPlacement({kNormal, 1500, 3000, 7500, 9000});
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      const WindowPlacement now = window.CurrentPlacement();
+      QCOMPARE(now.height, 7500L);
+      QCOMPARE(now.width, 9000L);
+      window.close();
+    }
+    QCOMPARE(fake.settings.GetSetting("frmMain", "Height", ""), std::string("7500"));
+    QCOMPARE(fake.settings.GetSetting("frmMain", "Width", ""), std::string("9000"));
+    QCOMPARE(fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("0"));
+    {
+      // Maximised: the normal geometry is kept, the state is saved.
+      qt::FrmMain window(session, fake.platform, commands);
+      window.ApplyPlacement({kMaximized, 1500, 3000, 7500, 9000});
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      QVERIFY(window.isMaximized());
+      window.close();
+    }
+    QCOMPARE(fake.settings.GetSetting("frmMain", "Height", ""), std::string("7500"));
+    QCOMPARE(fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("2"));
+  }
+};
+
+QTEST_MAIN(FrmMainTest)
+#include "frm_main_test.moc"
