@@ -107,6 +107,20 @@ bool BuildMarkIndex(const std::string& datasetPath, const std::string& indexPath
   }
 }
 
+void BuildMarkIndexBehindProgress(const std::string& label, const std::string& datasetPath,
+                                  const std::string& indexPath, MarkIndex& markIndex, Platform& platform) {
+  Progress& progress = platform.dlgProcessing;
+  const std::uint64_t length = FileLength(datasetPath);
+  progress.lblProcessing = label;
+  progress.lblInfo = "Please wait...";
+  progress.max = static_cast<int>(length / 5000);
+  progress.value = 1;
+  progress.Show();
+  platform.ui.DoEvents();
+  BuildMarkIndex(datasetPath, indexPath, markIndex, platform);
+  progress.Hide();
+}
+
 void LoadIndexFile(const std::string& indexPath, MarkIndex& markIndex) {
   markIndex.Assign(SplitCrLf(ReadWholeFile(indexPath)));
 }
