@@ -23,6 +23,7 @@ class IndexBuilder {
   void Run(const std::string& indexPath) {
     markIndex_.Clear();
     LineReader reader(datasetPath_);  // opened first, so a missing dataset leaves the old index file
+    if (IsSameFile(datasetPath_, indexPath)) throw PathFileAccessError();  // never write over the dataset
     LineWriter out(indexPath);
     std::string_view line;
     while (reader.ReadLine(line)) {
