@@ -1,5 +1,6 @@
 #include "app/app_commands.hpp"
 #include "app/command_table.hpp"
+#include "dataset/dataset_commands.hpp"
 
 namespace benchlog {
 
@@ -8,6 +9,7 @@ namespace benchlog {
 CommandTable BuildCommandTable() {
   CommandTable table;
   RegisterAppCommands(table);
+  RegisterDatasetCommands(table);
   return table;
 }
 

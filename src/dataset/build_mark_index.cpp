@@ -1,0 +1,113 @@
+#include "dataset/build_mark_index.hpp"
+
+#include <stdexcept>
+
+#include "common/files.hpp"
+#include "common/line_input.hpp"
+#include "common/paths.hpp"
+#include "common/runtime_failure.hpp"
+#include "dataset/dataset_paths.hpp"
+#include "dataset/dataset_text.hpp"
+#include "dataset/index_line_rules.hpp"
+#include "dataset/line_writer.hpp"
+
+namespace benchlog {
+namespace {
+
+class IndexBuilder {
+ public:
+  IndexBuilder(const std::string& datasetPath, MarkIndex& markIndex, Progress& progress)
+      : datasetPath_(datasetPath), folder_(FolderOf(datasetPath)), markIndex_(markIndex), progress_(progress) {}
+
+  void Run(const std::string& indexPath) {
+    markIndex_.Clear();
+    LineReader reader(datasetPath_);  // opened first, so a missing dataset leaves the old index file
+    LineWriter out(indexPath);
+    std::string_view line;
+    while (reader.ReadLine(line)) {
+      if (!IsHeaderLine(line)) {
+        length_ += CountedLength(line);
+        if (IsDataLine(line)) ApplyIndexLineRules(line, fields_);
+      } else if (fields_.Pid.empty()) {
+        position_ = 1;  // the first Description: what stood before it belongs to none
+        length_ = CountedLength(line);
+      } else {
+        FinishDescription(out);
+        length_ = CountedLength(line);
+        Advance();
+      }
+    }
+    FinishLastDescription(out);
+    out.Close();
+  }
+
+ private:
+  void SetPictureFlags() {
+    fields_.PhotoFlag = FileExists(PhotoPathFor(folder_, fields_.Pid)) ? "Y" : " ";
+    fields_.SketchFlag = FileExists(SketchPathFor(folder_, fields_.Pid)) ? "Y" : " ";
+  }
+
+  void Store(std::size_t element, LineWriter& out) {
+    fields_.DescriptionOffset = position_;
+    std::string record = FormatIndexRecord(fields_);
+    out.WriteLine(record);
+    markIndex_.Set(element, std::move(record));
+  }
+
+  void FinishDescription(LineWriter& out) {
+    SetPictureFlags();
+    ApplyLandmarkRule(fields_);
+    Store(count_, out);
+    position_ += length_;
+    ++count_;
+    ResetForNextDescription(fields_);
+  }
+
+  // The last Description has no landmark rule, and its record goes one element further on, so
+  // the element at the old count stays empty; the sentinel follows it.
+  void FinishLastDescription(LineWriter& out) {
+    SetPictureFlags();
+    ++count_;
+    Store(count_, out);
+    std::string sentinel = SentinelRecord(FileLength(datasetPath_));
+    out.WriteLine(sentinel);
+    markIndex_.Set(count_ + 1, std::move(sentinel));
+  }
+
+  void Advance() {
+    if (progress_.max > progress_.value) {
+      ++progress_.value;
+      progress_.Refresh();
+    }
+  }
+
+  const std::string& datasetPath_;
+  const std::string folder_;
+  MarkIndex& markIndex_;
+  Progress& progress_;
+  IndexRecord fields_;
+  std::uint64_t position_ = 0;
+  std::uint64_t length_ = 0;
+  std::size_t count_ = 0;
+};
+
+}  // namespace
+
+bool BuildMarkIndex(const std::string& datasetPath, const std::string& indexPath, MarkIndex& markIndex,
+                    Platform& platform) {
+  try {
+    IndexBuilder(datasetPath, markIndex, platform.dlgProcessing).Run(indexPath);
+    platform.dlgProcessing.Hide();
+    return true;
+  } catch (const std::exception& failure) {
+    platform.dlgProcessing.Hide();
+    platform.ui.MsgBox(failure.what(), MsgButtons::Ok, MsgIcon::Critical, "Create Mark Index");
+    return false;
+  }
+}
+
+void LoadIndexFile(const std::string& indexPath, MarkIndex& markIndex) {
+  markIndex.Assign(SplitCrLf(ReadWholeFile(indexPath)));
+}
+
+}  // namespace benchlog

@@ -1,0 +1,65 @@
+#include "dataset/description_file.hpp"
+
+#include <cstdio>
+#include <stdexcept>
+
+#include "common/files.hpp"
+#include "common/runtime_failure.hpp"
+#include "dataset/mark_lookup.hpp"
+
+namespace benchlog {
+namespace {
+
+// A file opened for one operation and closed at its end, however it ends.
+struct OpenFile {
+  OpenFile(const std::string& path, const char* mode) : file(std::fopen(path.c_str(), mode)) {}
+  ~OpenFile() {
+    if (file) std::fclose(file);
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  std::FILE* file;
+};
+
+bool SeekTo(std::FILE* file, std::int64_t bytePosition) {
+  return std::fseek(file, static_cast<long>(bytePosition - 1), SEEK_SET) == 0;
+}
+
+}  // namespace
+
+std::string GetDescription(const MarkIndex& markIndex, const std::string& datasetPath, const std::string& pid,
+                           std::string& text) {
+  const MarkLocation at = LocateMark(markIndex, pid);
+  if (at.position == 0) return "PID not found!";
+  const std::int64_t length = at.next - at.start;
+  if (!FileExists(datasetPath) || at.start < 1) return "";
+  if (length < 1) return "Invalid description Length!";
+  OpenFile in(datasetPath, "rb");
+  if (!in.file || !SeekTo(in.file, at.start)) throw PathFileAccessError();
+  std::string buffer(static_cast<std::size_t>(length), '\0');
+  buffer.resize(std::fread(buffer.data(), 1, buffer.size(), in.file));
+  text = std::move(buffer);
+  return "";
+}
+
+std::string BlankDescription(const MarkIndex& markIndex, const std::string& datasetPath, const std::string& pid) {
+  const MarkLocation at = LocateMark(markIndex, pid);
+  if (at.position == 0) return "PID not found!";
+  const std::int64_t start = at.start == 0 ? 1 : at.start;
+  const std::int64_t next = at.next == 0 ? 1 : at.next;
+  const std::int64_t length = next - start;
+  if (length <= 2) return "";
+  try {
+    OpenFile out(datasetPath, "r+b");
+    if (!out.file) return "Unable to open .dat file for writing.";
+    const std::string blanks = std::string(static_cast<std::size_t>(length - 2), ' ') + "\r\n";
+    if (!SeekTo(out.file, start) || std::fwrite(blanks.data(), 1, blanks.size(), out.file) != blanks.size())
+      throw PathFileAccessError();
+    if (std::fflush(out.file) != 0) throw PathFileAccessError();
+    return "";
+  } catch (const RuntimeFailure& failure) {
+    return failure.description;
+  }
+}
+
+}  // namespace benchlog
