@@ -1,6 +1,7 @@
 #include "dataset/mark_lookup.hpp"
 
 #include "common/number_text.hpp"
+#include "common/rounding.hpp"
 #include "dataset/dataset_text.hpp"
 
 namespace benchlog {
@@ -10,8 +11,10 @@ constexpr std::size_t kStartBehind = 134;
 constexpr std::size_t kNextBehind = 281;
 constexpr std::size_t kOffsetWidth = 9;
 
+// The number in the 9 characters at `position`, rounded to a whole number as a 32-bit integer
+// takes it (a slice of other text can hold a fraction, or overflow).
 std::int64_t NumberAt(const std::string& joined, std::size_t position) {
-  return static_cast<std::int64_t>(Val(Columns(joined, position, kOffsetWidth)));
+  return CLng(Val(Columns(joined, position, kOffsetWidth)));
 }
 
 }  // namespace

@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+
+#include "app/command_table.hpp"
+#include "common/files.hpp"
+#include "dataset/dataset_paths.hpp"
+#include "dataset/dataset_test_support.hpp"
+#include "fakes/fakes.hpp"
+
+namespace benchlog {
+namespace {
+
+using testing::FakePlatform;
+using testing::Fixture;
+using testing::ScratchFolder;
+
+TEST(Reindex, RebuildsBehindTheProgressDialog) {
+  ScratchFolder folder;
+  FakePlatform fake(folder.Path());
+  const std::string landmarks = Fixture("landmarks.dat");
+  Session session;
+  session.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,635 bytes
+  session.IndexFile = IndexPathFor(folder.Path(), session.DatFile);
+  const CommandTable table = BuildCommandTable();
+  ASSERT_TRUE(table.Has("mnuReindex"));
+
+  table.Run("mnuReindex", session, fake.platform);
+
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
+  ASSERT_GE(fake.progressHistory.size(), 3u);
+  const Progress& shown = fake.progressHistory.front();
+  EXPECT_TRUE(shown.Visible());
+  EXPECT_EQ(shown.lblProcessing, "Creating Index");
+  EXPECT_EQ(shown.lblInfo, "Please wait...");
+  EXPECT_EQ(shown.max, 2);
+  EXPECT_EQ(shown.value, 1);
+  EXPECT_EQ(fake.progressHistory[1].value, 2);  // one step, then the bar is full
+  EXPECT_FALSE(fake.progress.Visible());
+  EXPECT_EQ(fake.ui.doEventsCalls, 1);
+  EXPECT_EQ(session.markIndex.Size(), 26u);  // 24 Descriptions, built layout
+  EXPECT_TRUE(FileExists(folder.File("three.ndx")));
+}
+
+TEST(Reindex, NeedsADataset) {
+  struct Case {
+    const char* datFile;
+    const char* message;
+  };
+  const Case cases[] = {{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}};
+  for (const auto& c : cases) {
+    ScratchFolder folder;
+    FakePlatform fake(folder.Path());
+    Session session;
+    session.DatFile = c.datFile;
+    BuildCommandTable().Run("mnuReindex", session, fake.platform);
+    EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{c.message}) << c.datFile;
+    EXPECT_FALSE(fake.progress.Visible());
+  }
+}
+
+}  // namespace
+}  // namespace benchlog
