@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "geodesy/angle_text.hpp"
+#include "geodesy/angles.hpp"
+#include "geodesy/format_padded.hpp"
+
+namespace benchlog {
+namespace {
+
+double Dms(double degrees, double minutes, double seconds) {
+  return RadOfDeg(degrees + minutes / 60.0 + seconds / 3600.0);
+}
+
+std::string ToDms(double angle, int code, int decimals, bool pad = false, bool zeroFill = false) {
+  std::string text = "untouched";
+  RadToDms(angle, text, static_cast<std::int16_t>(code), static_cast<std::int16_t>(decimals), pad, zeroFill);
+  return text;
+}
+
+TEST(RadToDms, FiveFormatCodes) {
+  const double angle = Dms(38, 53, 23.12345);
+  EXPECT_EQ(ToDms(angle, 1, 5), "38.532312345");
+  EXPECT_EQ(ToDms(angle, 2, 5), "38 53 23.12345");
+  EXPECT_EQ(ToDms(angle, 3, 5), "38-53-23.12345");
+  EXPECT_EQ(ToDms(angle, 4, 5), "385323.12345");
+  EXPECT_EQ(ToDms(angle, 5, 5), "38\xB0" "53'23.12345\"");
+  EXPECT_EQ(ToDms(angle, 0, 5), "untouched");
+  EXPECT_EQ(ToDms(angle, 6, 5), "untouched");
+}
+
+TEST(RadToDms, RolloverThresholdsFollowTheDecimals) {
+  struct Case { double degrees, minutes, seconds; int decimals; const char* expected; };
+  const Case cases[] = {
+      {38, 59, 59.99999, 4, "39 00 00.0000"},  // threshold 59.99995
+      {38, 59, 59.99994, 4, "38 59 59.9999"},
+      {359, 59, 59.9999, 2, "0 00 00.00"},     // wraps, no 360 in the text
+      {360, 0, 0, 0, "0 00 00"},                // a true 360 00 00 wraps as well
+      {12, 34, 59.6, 0, "12 35 00"},           // threshold 59.5
+      {12, 34, 59.4, 0, "12 34 59"},
+      {10, 0, 59.96, 1, "10 01 00.0"},         // threshold 59.95
+      {10, 0, 59.94, 1, "10 00 59.9"},
+      {0, 0, 0, 3, "0 00 00.000"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(ToDms(Dms(c.degrees, c.minutes, c.seconds), 2, c.decimals), c.expected) << c.expected;
+}
+
+TEST(RadToDms, SignPadAndZeroFill) {
+  EXPECT_EQ(ToDms(-Dms(5, 0, 0), 2, 1, true), "-  5 00 00.0");  // the sign stands before the blanks
+  EXPECT_EQ(ToDms(-Dms(5, 0, 0), 2, 1, false, true), "-005 00 00.0");
+  EXPECT_EQ(ToDms(-Dms(5, 0, 0), 2, 1, true, true), "-005 00 00.0");  // zero-fill beats pad
+  EXPECT_EQ(ToDms(-Dms(5, 0, 0), 2, 1), "-5 00 00.0");
+  EXPECT_EQ(ToDms(Dms(77, 2, 15), 2, 1, true), " 77 02 15.0");
+  EXPECT_EQ(ToDms(Dms(123, 4, 5), 3, 0, true), "123-04-05");
+  // The sign is decided before the rollover: a tiny negative angle keeps it.
+  EXPECT_EQ(ToDms(-Dms(0, 0, 0.001), 2, 2), "-0 00 00.00");
+  EXPECT_EQ(ToDms(-Dms(0, 0, 59.999), 4, 2), "-00100.00");
+}
+
+TEST(RadToDms, SecondsCarryNoMoreThanSinglePrecision) {
+  // 23.1234567 as a single is 23.12346 to its seven significant digits.
+  EXPECT_EQ(ToDms(Dms(38, 53, 23.1234567), 2, 7), "38 53 23.1234600");
+}
+
+struct DmsCase {
+  const char* text;
+  const char* textAfter;  // the in-out text: trimmed, leading "-" removed
+  double expectedDegrees;
+  const char* error;
+};
+
+TEST(DmsToRad, ReadsEverySeparatorForm) {
+  const DmsCase cases[] = {
+      {"38 53 23.1", "38 53 23.1", 38 + 53 / 60.0 + 23.1 / 3600, ""},
+      {"385323.1", "385323.1", 38 + 53 / 60.0 + 23.1 / 3600, ""},  // point at 7: in the seconds
+      {"38.53231", "38.53231", 38 + 53 / 60.0 + 23.1 / 3600, ""},  // point at 3: behind the degrees
+      {"38.5323", "38.5323", 38 + 53 / 60.0 + 23 / 3600.0, ""},
+      {"12345", "12345", 1 + 23 / 60.0 + 45 / 3600.0, ""},
+      {"1234567", "1234567", 123 + 45 / 60.0 + 67 / 3600.0, "<*** Invalid seconds input ***>"},
+      {"-38-53-23", "38-53-23", -(38 + 53 / 60.0 + 23 / 3600.0), ""},
+      {"  077:30  ", "077:30", 77.5, ""},
+      {"38,30", "38,30", 38.5, ""},
+      {"38:53.5", "38:53.5", 38 + 53.5 / 60, ""},  // ":" before "."
+      {"38", "38", 0, "<*** Invalid angle - 38 ***>"},
+      {"+38 53 00", "+38 53 00", 38 + 53 / 60.0, ""},  // a leading "+" goes on into the degrees
+      {":12345", ":12345", 23 / 60.0 + 45 / 3600.0, ""},  // a separator at position 1 does not count
+      {"45 30", "45 30", 45.5, ""},  // missing seconds read as 0
+      {"10 20 30 40", "10 20 30 40", 10 + 20 / 60.0 + 30 / 3600.0, ""},  // a fourth field is ignored
+  };
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    double radians = -1;
+    std::string error = "stale";
+    DmsToRad(text, radians, error);
+    EXPECT_EQ(error, c.error) << c.text;
+    EXPECT_EQ(text, c.textAfter) << c.text;
+    if (error.empty()) EXPECT_NEAR(radians, RadOfDeg(c.expectedDegrees), 1e-15) << c.text;
+    else EXPECT_EQ(radians, 0.0) << c.text;
+  }
+}
+
+TEST(DmsToRad, RefusesFlaggedAndOutOfRangeTexts) {
+  const DmsCase cases[] = {
+      {"1234", "1234", 0, "<*** Invalid angle - 1234 ***>"},  // under five characters
+      {"38*53 23", "38*53 23", 0, "<*** Invalid angle - 38*53 23 ***>"},
+      {"(38 53 23)", "(38 53 23)", 0, "<*** Invalid angle - (38 53 23) ***>"},
+      {"38 53 #23", "38 53 #23", 0, "<*** Invalid angle - 38 53 #23 ***>"},
+      {"38+53", "38+53", 0, "<*** Invalid angle - 38+53 ***>"},
+      {" -38 53* ", "-38 53*", 0, "<*** Invalid angle - -38 53* ***>"},
+      {"360 00 00", "360 00 00", 0, "<*** Invalid degrees input ***>"},
+      {"359 60 00", "359 60 00", 0, "<*** Invalid minutes input ***>"},
+      {"359 60 60", "359 60 60", 0, "<*** Invalid seconds input ***>"},  // the last failing test speaks
+      {"400 60 00", "400 60 00", 0, "<*** Invalid minutes input ***>"},
+      {"38 53-23", "38 53-23", 0, "<*** Invalid degrees input ***>"},  // "-" first: "38 53" reads 3853
+      {"1E999 00 00", "1E999 00 00", 0, "Overflow"},
+  };
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    double radians = -1;
+    std::string error;
+    DmsToRad(text, radians, error);
+    EXPECT_EQ(error, c.error) << c.text;
+    EXPECT_EQ(text, c.textAfter) << c.text;
+    EXPECT_EQ(radians, 0.0) << c.text;
+  }
+}
+
+TEST(DmsToRad, ReadsWhatRadToDmsWrites) {
+  const double angle = Dms(104, 59, 59.87654);
+  for (int code = 2; code <= 4; ++code) {
+    std::string text = ToDms(angle, code, 5);
+    double radians = 0;
+    std::string error;
+    DmsToRad(text, radians, error);
+    EXPECT_EQ(error, "") << code;
+    EXPECT_NEAR(radians, angle, RadOfDeg(0.000005 / 3600)) << code;
+  }
+}
+
+TEST(IsPackedAngle, Plausibility) {
+  struct Case { const char* text; double maxDegrees; bool expected; };
+  const Case cases[] = {
+      {"0385323.1", 360, true},
+      {"385323.1", 90, true},
+      {"915323.1", 90, false},   // degrees over the limit
+      {"0386023.1", 360, false}, // minutes 60
+      {"0385360.1", 360, false}, // seconds 60
+      {"38 5323", 360, false},   // a blank is below "."
+      {"-385323", 360, false},
+      {"38/5323", 360, false},
+      {"A385323", 360, false},   // the first character above "9"
+      {"38A5323.1", 360, true},  // a letter further on passes: only position 1 is held to "9"
+      {"3853", 360, true},       // no point: no degrees, minutes 38, seconds 53
+      {"5930", 360, true},
+  };
+  for (const auto& c : cases) EXPECT_EQ(IsPackedAngle(c.text, c.maxDegrees), c.expected) << c.text;
+}
+
+TEST(FormatPadded, RightJustifiesToThePatternLength) {
+  EXPECT_EQ(FormatPadded(5.0, "##0"), "  5");
+  EXPECT_EQ(FormatPadded(1234.5678, "#,##0.00"), "1,234.57");
+  EXPECT_EQ(FormatPadded(12.5, "#0.000"), "12.500");
+  EXPECT_EQ(FormatPadded(3.0, "#0.000"), " 3.000");
+  EXPECT_EQ(FormatPadded(123456.0, "##0"), "123456");  // longer than the pattern: as it is
+  EXPECT_EQ(FormatPadded("18", "#0"), "18");
+  EXPECT_EQ(FormatPadded("01", "#0"), " 1");
+  EXPECT_EQ(FormatPadded("1", "00"), "01");
+  EXPECT_EQ(FormatPadded("   ", "#0"), "");
+  EXPECT_EQ(FormatPadded("", "#0"), "");
+}
+
+}  // namespace
+}  // namespace benchlog
