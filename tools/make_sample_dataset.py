@@ -32,7 +32,6 @@ CLASS_TEXT = {
     "PACS": "This is a Primary Airport Control Station.",
     "SACS": "This is a Secondary Airport Control Station.",
 }
-HEIGHT_DATUMS = {"NAVD 88": "NAVD 88", "NGVD 29": "NGVD 29"}
 STABILITY_TEXT = {
     "A": ["MOST RELIABLE AND EXPECTED TO HOLD", "POSITION/ELEVATION WELL"],
     "B": ["PROBABLY HOLD POSITION/ELEVATION WELL"],

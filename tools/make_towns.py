@@ -59,6 +59,16 @@ def disambiguate(places, namer):
     return left
 
 
+def check_read_back(line, place):
+    """The plot reads degrees, minutes and seconds from columns 30-35 and 36-42: that must give the
+    source position back to within a second."""
+    lat = int(line[29:31]) + int(line[31:33]) / 60 + int(line[33:35]) / 3600
+    west = int(line[35:38]) + int(line[38:40]) / 60 + int(line[40:42]) / 3600
+    source_west = -place["lon"] if place["lon"] <= 0 else 360.0 - place["lon"]
+    if len(line) != 42 or abs(lat - place["lat"]) > 1 / 3600 or abs(west - source_west) > 1 / 3600:
+        sys.exit("position does not read back: %r" % line)
+
+
 def build(data_dir):
     places = []
     for row in read_table(data_dir, "us_places.csv"):
@@ -68,6 +78,7 @@ def build(data_dir):
             "state": row["state"],
             "type": ascii_upper(row["place_type"]).strip(),
             "lat": float(row["lat"]),
+            "lon": float(row["lon"]),
             "position": position_text(float(row["lat"]), float(row["lon"])),
             "name": fitted(base),
         })
@@ -79,6 +90,8 @@ def build(data_dir):
         return fitted(place["base"], " %d, %s" % (order.index(place) + 1, place["state"]))
 
     disambiguate(places, numbered)
+    for place in places:
+        check_read_back(line_of(place["name"], place["position"]), place)
     lines = sorted(line_of(p["name"], p["position"]) for p in places)
     for previous, current in zip(lines, lines[1:]):
         if identity(previous) == identity(current):

@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <iostream>
+#include <map>
+
+#include "common/text.hpp"
+#include "geodesy/angles.hpp"
+#include "geodesy/lambert.hpp"
+#include "geodesy/zone_table.hpp"
+#include "geodesy_test_support.hpp"
+
+namespace benchlog {
+namespace {
+
+using testing::GeodesyTest;
+using testing::ReadVectors;
+using testing::SupportPath;
+using testing::Worst;
+
+std::string Zone(const std::string& key) {
+  std::string line;
+  FindZoneLine(key, "", line, SupportPath());
+  return line;
+}
+
+// A copy of `line` with `text` put at 1-based `column`.
+std::string With(std::string line, std::size_t column, const std::string& text) {
+  line.replace(column - 1, text.size(), text);
+  return line;
+}
+
+struct Grid {
+  double north = -1, east = -1, convergence = -1, scale = -1;
+};
+
+Grid Project(const std::string& line, double latDegrees, double lonDegrees) {
+  Grid g;
+  LambertForward(line, RadOfDeg(latDegrees), RadOfDeg(lonDegrees), g.north, g.east, g.convergence, g.scale);
+  return g;
+}
+
+TEST_F(GeodesyTest, LambertOnlyForItsKind) {
+  const Grid g = Project(Zone("AL W "), 31, 87.5);
+  EXPECT_EQ(g.north, -1);
+  EXPECT_EQ(g.east, -1);
+  EXPECT_EQ(g.convergence, -1);
+  EXPECT_EQ(g.scale, -1);
+  EXPECT_EQ(LambertZone().zoneNumber, 0);
+}
+
+TEST_F(GeodesyTest, LambertOnTheCentralMeridian) {
+  const Grid g = Project(Zone("MD   "), 39, 77);
+  EXPECT_EQ(g.convergence, 0.0);
+  EXPECT_EQ(g.east, 400000.0);
+  EXPECT_GT(g.scale, 0.9999);
+  EXPECT_LT(g.scale, 1.0);  // between the standard parallels
+  EXPECT_EQ(LambertZone().zoneNumber, 1900);
+}
+
+TEST_F(GeodesyTest, LambertKeepsTheZoneConstantsUntilTheNumberChanges) {
+  const std::string maryland = Zone("MD   ");
+  const std::string moved = With(maryland, 19, " 500000.0000");  // another false easting, same number
+  const Grid first = Project(maryland, 39.2, 76.5);
+  const Grid cached = Project(moved, 39.2, 76.5);  // same number: no rebuild, the old easting stays
+  EXPECT_EQ(cached.east, first.east);
+  EXPECT_EQ(cached.north, first.north);
+
+  Project(Zone("VA N "), 38.5, 78);  // another zone, then back: rebuilt each time
+  EXPECT_EQ(LambertZone().zoneNumber, 4501);
+  const Grid rebuilt = Project(moved, 39.2, 76.5);
+  EXPECT_NEAR(rebuilt.east, first.east + 100000.0, 1e-9);
+  EXPECT_EQ(rebuilt.north, first.north);
+  EXPECT_EQ(LambertZone().zoneNumber, 1900);
+}
+
+TEST_F(GeodesyTest, LambertZeroParallelLeavesStaleConstants) {
+  const std::string maryland = Zone("MD   ");
+  const Grid reference = Project(maryland, 39.2, 76.5);
+  const double k = LambertZone().k;
+  // Zone 9999: Maryland with the first parallel 0 and another false easting.
+  const std::string broken = With(With(With(maryland, 7, "9999"), 45, "00:00"), 19, " 500000.0000");
+  const Grid untouched = Project(broken, 39.2, 76.5);
+  EXPECT_EQ(untouched.north, -1);
+  EXPECT_EQ(untouched.east, -1);
+  EXPECT_EQ(untouched.convergence, -1);
+  EXPECT_EQ(untouched.scale, -1);
+  EXPECT_EQ(LambertZone().zoneNumber, 9999);
+  EXPECT_EQ(LambertZone().eb, 500000.0);  // stored before the parallels were read
+  EXPECT_EQ(LambertZone().k, k);
+  // The next call for that zone skips the rebuild and works with Maryland's K, Rb and cone.
+  const Grid stale = Project(broken, 39.2, 76.5);
+  EXPECT_NEAR(stale.east, reference.east + 100000.0, 1e-9);
+  EXPECT_EQ(stale.north, reference.north);
+  EXPECT_EQ(stale.scale, reference.scale);
+}
+
+TEST_F(GeodesyTest, LambertEastOfTheMeridianHasPositiveConvergence) {
+  const Grid east = Project(Zone("MD   "), 39, 76);  // 76 W lies east of 77 W
+  EXPECT_GT(east.east, 400000.0);
+  EXPECT_GT(east.convergence, 0.0);
+  const Grid west = Project(Zone("MD   "), 39, 78);
+  EXPECT_LT(west.east, 400000.0);
+  EXPECT_NEAR(west.convergence, -east.convergence, 1e-15);
+}
+
+// Against PROJ (north, east) and GeographicLib's ConicProj (convergence, scale) for every Lambert
+// zone of the table, points spread over each zone.
+TEST_F(GeodesyTest, LambertAccuracyAgainstProj) {
+  std::map<std::string, std::string> lines;
+  Worst position, convergence, scale;
+  int points = 0;
+  for (const auto& r : ReadVectors("spcs_vectors.txt")) {
+    if (r[7] != "LC") continue;
+    std::string& line = lines[r[0]];
+    if (line.empty()) FindZoneLine("", r[0], line, SupportPath());
+    ASSERT_EQ(ZoneKind(line), "LC") << r[0];
+    const Grid g = Project(line, std::stod(r[1]), std::stod(r[2]));
+    const std::string where = r[0] + " " + r[1] + " " + r[2];
+    position.Note(std::max(std::fabs(g.north - std::stod(r[3])), std::fabs(g.east - std::stod(r[4]))), where);
+    convergence.Note(std::fabs(g.convergence - RadOfDeg(std::stod(r[5]))), where);
+    scale.Note(std::fabs(g.scale - std::stod(r[6])), where);
+    ++points;
+  }
+  std::cout << "LambertForward, " << lines.size() << " zones, " << points << " points: largest error "
+            << position.value * 1000 << " mm (" << position.where << "), convergence " << convergence.value
+            << " rad (" << convergence.where << "), scale " << scale.value << " (" << scale.where << ")\n";
+  EXPECT_EQ(lines.size(), 69u);
+  EXPECT_LT(position.value, 1e-4);
+  EXPECT_LT(convergence.value, 1e-9);
+  EXPECT_LT(scale.value, 1e-9);
+}
+
+}  // namespace
+}  // namespace benchlog
