@@ -10,6 +10,7 @@
 #include "dataset/dataset_text.hpp"
 #include "dataset/index_line_rules.hpp"
 #include "dataset/line_writer.hpp"
+#include "dataset/picture_folder.hpp"
 
 namespace benchlog {
 namespace {
@@ -17,7 +18,7 @@ namespace {
 class IndexBuilder {
  public:
   IndexBuilder(const std::string& datasetPath, MarkIndex& markIndex, Progress& progress)
-      : datasetPath_(datasetPath), folder_(FolderOf(datasetPath)), markIndex_(markIndex), progress_(progress) {}
+      : datasetPath_(datasetPath), pictures_(FolderOf(datasetPath)), markIndex_(markIndex), progress_(progress) {}
 
   void Run(const std::string& indexPath) {
     markIndex_.Clear();
@@ -43,8 +44,8 @@ class IndexBuilder {
 
  private:
   void SetPictureFlags() {
-    fields_.PhotoFlag = FileExists(PhotoPathFor(folder_, fields_.Pid)) ? "Y" : " ";
-    fields_.SketchFlag = FileExists(SketchPathFor(folder_, fields_.Pid)) ? "Y" : " ";
+    fields_.PhotoFlag = pictures_.Has(PhotoPathFor("", fields_.Pid)) ? "Y" : " ";
+    fields_.SketchFlag = pictures_.Has(SketchPathFor("", fields_.Pid)) ? "Y" : " ";
   }
 
   void Store(std::size_t element, LineWriter& out) {
@@ -82,7 +83,7 @@ class IndexBuilder {
   }
 
   const std::string& datasetPath_;
-  const std::string folder_;
+  const PictureFolder pictures_;  // the dataset's folder
   MarkIndex& markIndex_;
   Progress& progress_;
   IndexRecord fields_;

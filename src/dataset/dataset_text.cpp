@@ -2,24 +2,6 @@
 
 namespace benchlog {
 
-std::string_view Columns(std::string_view line, std::size_t start, std::size_t length) {
-  const std::size_t from = start == 0 ? 0 : start - 1;
-  if (from >= line.size()) return {};
-  return line.substr(from, length);
-}
-
-char ColumnChar(std::string_view line, std::size_t column) {
-  return column >= 1 && column <= line.size() ? line[column - 1] : '\0';
-}
-
-bool KeyAt(std::string_view line, std::size_t column, std::string_view key) {
-  return Columns(line, column, key.size()) == key;
-}
-
-bool IsHeaderLine(std::string_view line) { return KeyAt(line, 1, kHeaderMark); }
-
-bool IsDataLine(std::string_view line) { return ColumnChar(line, 1) == ' '; }
-
 bool IsForeignLine(std::string_view line) { return !IsHeaderLine(line) && !IsDataLine(line); }
 
 bool IsBlankLine(std::string_view line) { return line.find_first_not_of(' ') == std::string_view::npos; }

@@ -13,17 +13,25 @@ inline constexpr std::string_view kHeaderMark = "1      ";
 
 // Columns `start` to `start + length - 1` of a line, as a view; never fails (shorter or empty past
 // the end). `start` 0 counts as 1.
-std::string_view Columns(std::string_view line, std::size_t start, std::size_t length);
+inline std::string_view Columns(std::string_view line, std::size_t start, std::size_t length) {
+  const std::size_t from = start == 0 ? 0 : start - 1;
+  return from >= line.size() ? std::string_view() : line.substr(from, length);
+}
 // Column `column` of a line, or '\0' when the line is shorter.
-char ColumnChar(std::string_view line, std::size_t column);
+inline char ColumnChar(std::string_view line, std::size_t column) {
+  return column >= 1 && column <= line.size() ? line[column - 1] : '\0';
+}
 
 // True when `key` stands exactly at `column` (the slice of the key's own length equals it).
-bool KeyAt(std::string_view line, std::size_t column, std::string_view key);
+// Inline: the index builder asks this for every line of a dataset.
+inline bool KeyAt(std::string_view line, std::size_t column, std::string_view key) {
+  return Columns(line, column, key.size()) == key;
+}
 
 // A header line begins a new Description: columns 1 to 7 are exactly "1      ".
-bool IsHeaderLine(std::string_view line);
+inline bool IsHeaderLine(std::string_view line) { return KeyAt(line, 1, kHeaderMark); }
 // A data line (or a line of blanks) has a blank in column 1; only such lines are interpreted.
-bool IsDataLine(std::string_view line);
+inline bool IsDataLine(std::string_view line) { return ColumnChar(line, 1) == ' '; }
 // Neither a header nor a data line (an empty line too): not interpreted, but its length counts
 // into the Description it stands in.
 bool IsForeignLine(std::string_view line);

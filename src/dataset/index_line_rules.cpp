@@ -10,14 +10,32 @@
 namespace benchlog {
 namespace {
 
+// The keys are told apart by one column first (the builder reads every line of a dataset). No two
+// keys can match the same line, so the order in which they are tried does not matter.
 void ApplyClassKeys(std::string_view line, IndexRecord& f) {
-  if (KeyAt(line, 10, "CORS")) f.CorsFlag = "C";
-  if (KeyAt(line, 10, "FBN")) f.BaseNetFlag = "F";
-  if (KeyAt(line, 10, "CBN")) f.BaseNetFlag = "C";
-  if (KeyAt(line, 10, "PACS")) f.AirportFlag = "P";
-  if (KeyAt(line, 10, "SACS")) f.AirportFlag = "S";
-  if (KeyAt(line, 10, "HT_MOD")) f.HeightModFlag = "H";
-  if (KeyAt(line, 10, "TIDAL BM")) f.TidalFlag = "T";
+  switch (ColumnChar(line, 10)) {
+    case 'C':
+      if (KeyAt(line, 10, "CORS")) f.CorsFlag = "C";
+      if (KeyAt(line, 10, "CBN")) f.BaseNetFlag = "C";
+      break;
+    case 'F':
+      if (KeyAt(line, 10, "FBN")) f.BaseNetFlag = "F";
+      break;
+    case 'P':
+      if (KeyAt(line, 10, "PACS")) f.AirportFlag = "P";
+      break;
+    case 'S':
+      if (KeyAt(line, 10, "SACS")) f.AirportFlag = "S";
+      break;
+    case 'H':
+      if (KeyAt(line, 10, "HT_MOD")) f.HeightModFlag = "H";
+      break;
+    case 'T':
+      if (KeyAt(line, 10, "TIDAL BM")) f.TidalFlag = "T";
+      break;
+    default:
+      break;
+  }
 }
 
 void ApplyHorzOrder(std::string_view line, IndexRecord& f) {
@@ -36,28 +54,54 @@ void ApplyVertOrder(std::string_view line, IndexRecord& f) {
   if (KeyAt(line, 27, "POSTED")) f.VertOrder = "P";
 }
 
-// The keyed lines of which only the first that matches applies.
+// The keys at column 8, of which at most one matches.
+bool ApplyColumn8Keys(std::string_view line, IndexRecord& f) {
+  switch (ColumnChar(line, 8)) {
+    case '*':
+      if (!IsPositionLine(line)) return false;
+      f.Latitude = std::string(PositionLatitudeText(line));
+      f.Longitude = std::string(PositionLongitudeText(line));
+      return true;
+    case '_':
+      if (KeyAt(line, 8, "_MARKER:")) {
+        const std::string_view code = Columns(line, 17, 2);
+        if (IsNumeric(code) && code != "71") f.StabilityCode = "L";
+      } else if (KeyAt(line, 8, "_STABILITY:")) {
+        f.StabilityCode = std::string(Columns(line, 20, 1));
+      } else if (KeyAt(line, 8, "_SATELLITE:")) {
+        f.SatelliteFlag = InStr(line, "NOT SUITABLE", 20) > 0 ? "N" : "Y";
+      } else {
+        return false;
+      }
+      return true;
+    default:
+      return false;
+  }
+}
+
+// The keyed lines of which only the first that matches applies: the county, the position, the
+// network accuracy, the orders, the marker, stability and satellite lines, the history.
 void ApplyFirstKeyedRule(std::string_view line, IndexRecord& f) {
-  if (KeyAt(line, 10, "STATE/COUNTY")) {
-    f.County = std::string(Columns(line, 28, 18));
-  } else if (IsPositionLine(line)) {
-    f.Latitude = std::string(PositionLatitudeText(line));
-    f.Longitude = std::string(PositionLongitudeText(line));
-  } else if (KeyAt(line, 10, "NETWORK")) {
-    f.HorzOrder = "0";
-  } else if (KeyAt(line, 10, "HORZ ORDER")) {
-    ApplyHorzOrder(line, f);
-  } else if (KeyAt(line, 10, "VERT ORDER")) {
-    ApplyVertOrder(line, f);
-  } else if (KeyAt(line, 8, "_MARKER:")) {
-    const std::string_view code = Columns(line, 17, 2);
-    if (IsNumeric(code) && code != "71") f.StabilityCode = "L";
-  } else if (KeyAt(line, 8, "_STABILITY:")) {
-    f.StabilityCode = std::string(Columns(line, 20, 1));
-  } else if (KeyAt(line, 8, "_SATELLITE:")) {
-    f.SatelliteFlag = InStr(line, "NOT SUITABLE", 20) > 0 ? "N" : "Y";
-  } else if (IsHistoryLine(line)) {
-    ApplyHistoryRule(line, f);
+  if (ApplyColumn8Keys(line, f)) return;
+  switch (ColumnChar(line, 10)) {
+    case 'S':
+      if (KeyAt(line, 10, "STATE/COUNTY")) f.County = std::string(Columns(line, 28, 18));
+      break;
+    case 'N':
+      if (KeyAt(line, 10, "NETWORK")) f.HorzOrder = "0";
+      break;
+    case 'H':
+      if (KeyAt(line, 10, "HORZ ORDER")) {
+        ApplyHorzOrder(line, f);
+      } else if (IsHistoryLine(line)) {
+        ApplyHistoryRule(line, f);
+      }
+      break;
+    case 'V':
+      if (KeyAt(line, 10, "VERT ORDER")) ApplyVertOrder(line, f);
+      break;
+    default:
+      break;
   }
 }
 
@@ -65,8 +109,10 @@ void ApplyFirstKeyedRule(std::string_view line, IndexRecord& f) {
 
 void ApplyIndexLineRules(std::string_view line, IndexRecord& f) {
   ApplyClassKeys(line, f);
-  if (KeyAt(line, 10, "DESIGNATION")) f.Designation = std::string(Columns(line, 25, 35)) + " ";
-  if (KeyAt(line, 8, "  PID") && !IsBlank(Columns(line, 25, 6))) f.Pid = std::string(Columns(line, 25, 6));
+  const char column10 = ColumnChar(line, 10);
+  if (column10 == 'D' && KeyAt(line, 10, "DESIGNATION")) f.Designation = std::string(Columns(line, 25, 35)) + " ";
+  if (column10 == 'P' && KeyAt(line, 8, "  PID") && !IsBlank(Columns(line, 25, 6)))
+    f.Pid = std::string(Columns(line, 25, 6));
   ApplyFirstKeyedRule(line, f);
 }
 

@@ -3,29 +3,41 @@
 #include "common/runtime_failure.hpp"
 
 namespace benchlog {
+namespace {
+constexpr std::size_t kBufferSize = 1 << 20;
+}
 
-LineWriter::LineWriter(const std::string& path) : buffer_(1 << 20) {
+LineWriter::LineWriter(const std::string& path) {
   file_ = std::fopen(path.c_str(), "wb");
   if (!file_) throw PathFileAccessError();
-  std::setvbuf(file_, buffer_.data(), _IOFBF, buffer_.size());
+  std::setvbuf(file_, nullptr, _IONBF, 0);  // the buffer is ours
+  buffer_.reserve(kBufferSize + 4096);
 }
 
 LineWriter::~LineWriter() {
-  if (file_) std::fclose(file_);
+  if (!file_) return;
+  std::fwrite(buffer_.data(), 1, buffer_.size(), file_);
+  std::fclose(file_);
+}
+
+void LineWriter::Flush() {
+  if (std::fwrite(buffer_.data(), 1, buffer_.size(), file_) != buffer_.size()) throw PathFileAccessError();
+  buffer_.clear();
 }
 
 void LineWriter::WriteLine(std::string_view text) {
   if (!file_) throw PathFileAccessError();
-  if (std::fwrite(text.data(), 1, text.size(), file_) != text.size() || std::fwrite("\r\n", 1, 2, file_) != 2)
-    throw PathFileAccessError();
+  buffer_.append(text).append("\r\n");
+  if (buffer_.size() >= kBufferSize) Flush();
 }
 
 void LineWriter::Close() {
   if (!file_) return;
-  const bool failed = std::ferror(file_) != 0;
-  const bool closeFailed = std::fclose(file_) != 0;
+  std::FILE* file = file_;
   file_ = nullptr;
-  if (failed || closeFailed) throw PathFileAccessError();
+  const bool written = std::fwrite(buffer_.data(), 1, buffer_.size(), file) == buffer_.size();
+  buffer_.clear();
+  if (std::fclose(file) != 0 || !written) throw PathFileAccessError();
 }
 
 }  // namespace benchlog

@@ -1,12 +1,11 @@
 #pragma once
-// A text file written line by line, each line ended by CR LF, through a large buffer. The file
-// is created anew (replacing one of the same name) when the writer is made and closed by Close()
-// or the destructor; a write that fails throws "Path/File access error", so a caller never takes
-// a short file for a whole one.
+// A text file written line by line, each line ended by CR LF, through a large buffer of its own.
+// The file is created anew (replacing one of the same name) when the writer is made and closed by
+// Close() or the destructor (which writes out what was buffered); a write that fails throws "Path/
+// File access error", so a caller never takes a short file for a whole one.
 #include <cstdio>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace benchlog {
 
@@ -18,12 +17,14 @@ class LineWriter {
   LineWriter& operator=(const LineWriter&) = delete;
 
   void WriteLine(std::string_view text);  // text and CR LF
-  // Flushes and closes; throws RuntimeFailure 75 when the data could not all be written.
+  // Writes out the buffer and closes; throws RuntimeFailure 75 when not all could be written.
   void Close();
 
  private:
+  void Flush();
+
   std::FILE* file_ = nullptr;
-  std::vector<char> buffer_;
+  std::string buffer_;
 };
 
 }  // namespace benchlog

@@ -12,7 +12,7 @@ namespace {
 
 using testing::FakePlatform;
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 struct Golden {
   const char* name;
@@ -27,8 +27,8 @@ class GoldenIndex : public ::testing::TestWithParam<Golden> {};
 // sentinel. Loading the file gives the other layout: the records, the sentinel, an empty element.
 TEST_P(GoldenIndex, MatchesTheHandMadeIndex) {
   const Golden& g = GetParam();
-  ScratchFolder folder;
-  const std::string dat = folder.CopyFixture(std::string(g.name) + ".dat");
+  TempFolder folder;
+  const std::string dat = CopyFixture(folder, std::string(g.name) + ".dat");
   for (const char* picture : g.pictures) folder.Write(picture, "");
   const std::string ndx = folder.File(std::string(g.name) + ".ndx");
   FakePlatform fake(folder.Path());
@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.name); });
 
 std::string Built(const std::string& text, const char* picture = nullptr) {
-  ScratchFolder folder;
+  TempFolder folder;
   const std::string dat = folder.Write("x.dat", text);
   if (picture) folder.Write(picture, "");
   FakePlatform fake(folder.Path());
@@ -100,8 +100,8 @@ TEST(BuildMarkIndex, CountsEveryLineAsCrLfEnded) {
 }
 
 TEST(BuildMarkIndex, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
-  ScratchFolder folder;
-  const std::string dat = folder.CopyFixture("landmarks.dat");  // 8 Descriptions
+  TempFolder folder;
+  const std::string dat = CopyFixture(folder, "landmarks.dat");  // 8 Descriptions
   FakePlatform fake(folder.Path());
   fake.progress.max = 5;
   fake.progress.value = 1;
@@ -116,7 +116,7 @@ TEST(BuildMarkIndex, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
 }
 
 TEST(BuildMarkIndex, FailureIsShownAndTheOldIndexStays) {
-  ScratchFolder folder;
+  TempFolder folder;
   const std::string ndx = folder.Write("gone.ndx", "old index\r\n");
   FakePlatform fake(folder.Path());
   fake.progress.Show();
@@ -133,8 +133,8 @@ TEST(BuildMarkIndex, FailureIsShownAndTheOldIndexStays) {
 }
 
 TEST(BuildMarkIndex, AnUnwritableIndexIsReported) {
-  ScratchFolder folder;
-  const std::string dat = folder.CopyFixture("single.dat");
+  TempFolder folder;
+  const std::string dat = CopyFixture(folder, "single.dat");
   FakePlatform fake(folder.Path());
   MarkIndex index;
   EXPECT_FALSE(BuildMarkIndex(dat, folder.File("no/such/folder.ndx"), index, fake.platform));

@@ -10,7 +10,7 @@ namespace {
 
 using testing::FakePlatform;
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
   struct Case {
@@ -27,7 +27,7 @@ TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
       {"empty", "", ""},
   };
   for (const auto& c : cases) {
-    ScratchFolder folder;
+    TempFolder folder;
     const std::string dat = folder.Write("d.dat", c.before);
     FakePlatform fake(folder.Path());
     EXPECT_EQ(CompressDataset(dat, fake.platform), "") << c.name;
@@ -38,8 +38,8 @@ TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
 }
 
 TEST(CompressDataset, DropsDeletedDescriptions) {
-  ScratchFolder folder;
-  const std::string dat = folder.CopyFixture("blanked.dat");
+  TempFolder folder;
+  const std::string dat = CopyFixture(folder, "blanked.dat");
   FakePlatform fake(folder.Path());
   EXPECT_EQ(CompressDataset(dat, fake.platform), "");
   EXPECT_EQ(ReadWholeFile(dat), Fixture("blanked_compressed.dat"));
@@ -64,7 +64,7 @@ TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
       {Lines(250), true, 3},  // 25,000 bytes: bar to 3; lines 100 and 200 set it to 1 and 2
   };
   for (const auto& c : cases) {
-    ScratchFolder folder;
+    TempFolder folder;
     const std::string dat = folder.Write("d.dat", c.text);
     FakePlatform fake(folder.Path());
     fake.progress.max = 0;
@@ -81,7 +81,7 @@ TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
     EXPECT_EQ(first.max, c.max);
     EXPECT_EQ(fake.ui.doEventsCalls, 1);
   }
-  ScratchFolder folder;
+  TempFolder folder;
   FakePlatform fake(folder.Path());
   CompressDataset(folder.Write("d.dat", Lines(250)), fake.platform);
   std::vector<int> values;
@@ -90,7 +90,7 @@ TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
 }
 
 TEST(CompressDataset, AMissingDatasetIsReportedAtTheReadingStage) {
-  ScratchFolder folder;
+  TempFolder folder;
   FakePlatform fake(folder.Path());
   EXPECT_EQ(CompressDataset(folder.File("gone.dat"), fake.platform), "Unable to open .dat file for reading.");
   ASSERT_EQ(fake.ui.messages.size(), 1u);
@@ -100,7 +100,7 @@ TEST(CompressDataset, AMissingDatasetIsReportedAtTheReadingStage) {
 
 // The work file cannot be made (App.Path is missing): the dataset is untouched.
 TEST(CompressDataset, AnUnwritableWorkFileLeavesTheDatasetWhole) {
-  ScratchFolder folder;
+  TempFolder folder;
   const std::string dat = folder.Write("d.dat", " keep  \r\n  \r\n");
   FakePlatform fake(folder.File("no-such-folder"));
   fake.progress.Show();

@@ -11,10 +11,10 @@ namespace {
 
 using testing::FakePlatform;
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 TEST(Reindex, RebuildsBehindTheProgressDialog) {
-  ScratchFolder folder;
+  TempFolder folder;
   FakePlatform fake(folder.Path());
   const std::string landmarks = Fixture("landmarks.dat");
   Session session;
@@ -47,7 +47,7 @@ TEST(Reindex, NeedsADataset) {
   };
   const Case cases[] = {{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}};
   for (const auto& c : cases) {
-    ScratchFolder folder;
+    TempFolder folder;
     FakePlatform fake(folder.Path());
     Session session;
     session.DatFile = c.datFile;

@@ -10,17 +10,17 @@ namespace benchlog {
 namespace {
 
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 // landmarks.dat: 8 Descriptions CD0001..CD0008 at these offsets, 3545 bytes in all.
 constexpr std::size_t kOffsets[] = {1, 471, 897, 1330, 1815, 2234, 2658, 3119, 3546};
 
 struct Landmarks {
-  ScratchFolder folder;
-  std::string dat = folder.CopyFixture("landmarks.dat");
+  TempFolder folder;
+  std::string dat = CopyFixture(folder, "landmarks.dat");
   std::string original = Fixture("landmarks.dat");
   MarkIndex index;
-  Landmarks() { LoadIndexFile(folder.CopyFixture("landmarks.ndx"), index); }
+  Landmarks() { LoadIndexFile(CopyFixture(folder, "landmarks.ndx"), index); }
   std::string Span(int i, std::size_t shortBy = 0) const {
     return original.substr(kOffsets[i] - 1, kOffsets[i + 1] - kOffsets[i] - shortBy);
   }
@@ -54,14 +54,14 @@ TEST(GetDescription, FailuresAndSilentCases) {
 
   // The empty dataset's only record has offset 0: nothing is read.
   MarkIndex empty;
-  LoadIndexFile(data.folder.CopyFixture("empty.ndx"), empty);
-  EXPECT_EQ(GetDescription(empty, data.folder.CopyFixture("empty.dat"), "", text), "");
+  LoadIndexFile(CopyFixture(data.folder, "empty.ndx"), empty);
+  EXPECT_EQ(GetDescription(empty, CopyFixture(data.folder, "empty.dat"), "", text), "");
   EXPECT_EQ(text, "as passed");
 
   // A record cut short makes the look-up read a later offset than the next one.
   MarkIndex layouts;
-  LoadIndexFile(data.folder.CopyFixture("layouts.ndx"), layouts);
-  EXPECT_EQ(GetDescription(layouts, data.folder.CopyFixture("layouts.dat"), "AB1236", text),
+  LoadIndexFile(CopyFixture(data.folder, "layouts.ndx"), layouts);
+  EXPECT_EQ(GetDescription(layouts, CopyFixture(data.folder, "layouts.dat"), "AB1236", text),
             "Invalid description Length!");
   EXPECT_EQ(text, "as passed");
 }
@@ -110,7 +110,7 @@ TEST(BlankDescription, ShortSpansAndAZeroOffset) {
       {0, 5, "  \r\nefghijklmnopqrst"},      // offset 0 counts as 1
   };
   for (const auto& c : cases) {
-    ScratchFolder folder;
+    TempFolder folder;
     const std::string dat = folder.Write("t.dat", "abcdefghijklmnopqrst");
     MarkIndex index;
     index.Assign({Rec("PP0001", c.start), Rec("PP0002", c.next), SentinelRecord(20), ""});

@@ -11,11 +11,11 @@ namespace {
 
 using testing::FakePlatform;
 using testing::Fixture;
-using testing::ScratchFolder;
+using testing::TempFolder;
 
 // A dataset folder and a separate program folder (App.Path), as on a real installation.
 struct Opening {
-  ScratchFolder data, app;
+  TempFolder data, app;
   FakePlatform fake{app.Path()};
   Session session;
   Opening() {
@@ -55,7 +55,7 @@ TEST(LoadDatasetIndex, AMissingDatasetChangesNothingElse) {
 
 TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
   Opening o;
-  o.data.CopyFixture("landmarks.dat");
+  CopyFixture(o.data, "landmarks.dat");
   o.data.Write("landmarks.hcl", "");
   o.data.Write("landmarks.err", "");
   EXPECT_TRUE(o.Load());
@@ -92,7 +92,7 @@ TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
   };
   for (const auto& c : cases) {
     Opening o;
-    o.data.CopyFixture("landmarks.dat");
+    CopyFixture(o.data, "landmarks.dat");
     o.app.Write("landmarks.ndx", c.index);
     EXPECT_EQ(o.Load(), c.rebuilt) << c.name;
     EXPECT_FALSE(o.ProgressWasShown()) << c.name;

@@ -73,10 +73,10 @@ TEST(MarkLookup, AnAbsentPidGivesBlankOrdersAndTheMessage) {
 // The look-up answers exactly as a search of the joined records would, for every six characters
 // that stand anywhere in them, and follows changes of the index.
 TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
-  testing::ScratchFolder folder;
+  testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex index;
-  BuildMarkIndex(folder.CopyFixture("layouts.dat"), folder.File("l.ndx"), index, fake.platform);
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), index, fake.platform);
   const std::string joined = index.Joined();
   for (std::size_t i = 0; i + 6 <= joined.size(); i += 3) {
     const std::string probe = joined.substr(i, 6);
@@ -92,10 +92,10 @@ TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
 // an empty element only adds one blank. AB1236's position line is cut short, so its record is 22
 // characters short: the look-up reads AB1235's end and AB1236's offset out of AB1237's columns.
 TEST(MarkLookup, SpansInBothLayouts) {
-  testing::ScratchFolder folder;
+  testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex built, loaded;
-  BuildMarkIndex(folder.CopyFixture("layouts.dat"), folder.File("l.ndx"), built, fake.platform);
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), built, fake.platform);
   LoadIndexFile(folder.File("l.ndx"), loaded);
   struct Case {
     const char* pid;

@@ -13,9 +13,9 @@ namespace {
 // The dataset's cycle: build, blank some Descriptions, compress, build again. The Descriptions
 // that stand come back byte for byte, and the file is exactly their text.
 TEST(DatasetCycle, SurvivingDescriptionsAreUnchanged) {
-  testing::ScratchFolder folder;
+  testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
-  const std::string dat = folder.CopyFixture("landmarks.dat");
+  const std::string dat = CopyFixture(folder, "landmarks.dat");
   const std::string ndx = folder.File("landmarks.ndx");
   const std::vector<std::string> pids = {"CD0001", "CD0002", "CD0003", "CD0004",
                                          "CD0005", "CD0006", "CD0007", "CD0008"};

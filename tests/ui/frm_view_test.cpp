@@ -1,0 +1,176 @@
+// The viewer's window offscreen: switching between text, photo and sketch, following a click,
+// typing, Esc and Save As, all through the model.
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include "app/session.hpp"
+#include "common/files.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
+#include "view/frm_view.hpp"
+#include "view/ui/display_text.hpp"
+#include "view/ui/frm_view_window.hpp"
+
+using namespace benchlog;
+
+class FrmViewTest : public QObject {
+  Q_OBJECT
+
+ private:
+  // Three Descriptions, three lines each, every line 78 characters and CR LF, so line n starts
+  // at byte 80 * n: PQ0001 has a photo (40x30) and a sketch (20x50), NO0002 nothing, BA0003 a
+  // photo file that is no picture.
+  static std::string Text() {
+    const auto line = [](std::string text) { return text + std::string(78 - text.size(), ' ') + "\r\n"; };
+    std::string text;
+    for (const std::string pid : {"PQ0001", "NO0002", "BA0003"}) {
+      text += line("1      National Geodetic Survey");
+      for (int n = 0; n < 2; ++n) text += line(" " + pid + "  DESIGNATION -  MARK " + pid);
+    }
+    return text;
+  }
+
+  struct Fixture {
+    testing::TempFolder folder;
+    testing::FakePlatform fake;
+    Session session;
+    frmView* model = nullptr;
+    std::unique_ptr<qt::FrmViewWindow> window;
+    Fixture() {
+      QImage(40, 30, QImage::Format_RGB32).save(QString::fromStdString(folder.File("PQ0001ph.jpg")), "JPG");
+      QImage(20, 50, QImage::Format_RGB32).save(QString::fromStdString(folder.File("PQ0001sk.jpg")), "JPG");
+      folder.Write("BA0003ph.jpg", "not a picture");
+      session.DatFilePath = folder.Path() + "/";
+      model = &ViewForm(session, fake.platform);
+      model->txtViewFile = Text();
+      model->Tag = "PQ0001";
+      model->Caption = "View Desc PQ0001";
+      window = std::make_unique<qt::FrmViewWindow>(*model);
+      window->LoadFromModel();
+      window->show();
+      QEvent activate(QEvent::WindowActivate);
+      QApplication::sendEvent(window.get(), &activate);
+    }
+    QString Title() const { return window->windowTitle(); }
+    // Clicks the text box at a byte position of the model's text.
+    void ClickAt(std::size_t modelPosition) {
+      QPlainTextEdit* box = window->TextBox();
+      QTextCursor cursor(box->document());
+      cursor.setPosition(qt::DisplayPosition(model->txtViewFile, modelPosition));
+      const QPoint point = box->cursorRect(cursor).center() + QPoint(1, 0);
+      QTest::mouseClick(box->viewport(), Qt::LeftButton, {}, point);
+    }
+  };
+
+ private slots:
+  void activationOffersPhotoAndSketch() {
+    Fixture f;
+    QVERIFY(f.window->mnuViewPhoto()->isVisible());
+    QVERIFY(f.window->mnuViewSketch()->isVisible());
+    QVERIFY(!f.window->mnuViewDesc()->isVisible());
+    QVERIFY(f.window->TextBox()->isVisible());
+    QVERIFY(!f.window->Image()->isVisible());
+    QCOMPARE(f.Title(), QString("View Desc PQ0001"));
+    QCOMPARE(f.window->TextBox()->toPlainText().count('\n'), 9);
+  }
+
+  void switchesBetweenTextPhotoAndSketch() {
+    Fixture f;
+    f.window->resize(500, 400);
+    f.window->mnuViewPhoto()->trigger();
+    QVERIFY(f.window->Image()->isVisible());
+    QVERIFY(!f.window->TextBox()->isVisible());
+    QCOMPARE(f.window->Image()->pixmap().size(), QSize(40, 30));
+    QVERIFY(f.window->Image()->hasScaledContents());
+    QCOMPARE(f.window->Image()->geometry(), f.window->TextBox()->geometry());
+    QCOMPARE(f.Title(), QString("View Photo for point PQ0001"));
+    QVERIFY(f.window->mnuViewDesc()->isVisible());
+    QVERIFY(!f.window->mnuViewPhoto()->isVisible());
+    QCOMPARE(f.model->PhotoFlag, 1);
+
+    f.window->mnuViewSketch()->trigger();
+    QCOMPARE(f.window->Image()->pixmap().size(), QSize(20, 50));
+    QCOMPARE(f.Title(), QString("View Sketch for point"));
+    QVERIFY(f.window->mnuViewPhoto()->isVisible());
+    QVERIFY(!f.window->mnuViewSketch()->isVisible());
+
+    f.window->mnuViewDesc()->trigger();
+    QVERIFY(f.window->TextBox()->isVisible());
+    QVERIFY(!f.window->Image()->isVisible());
+    QCOMPARE(f.Title(), QString("View Description for point PQ0001"));
+    QCOMPARE(f.model->PhotoFlag, 0);
+  }
+
+  void aClickFollowsTheMark() {
+    Fixture f;
+    f.ClickAt(7 * 80 + 19);  // the second line of BA0003, column 20
+    QCOMPARE(f.model->SelStart, std::size_t(7 * 80 + 19));
+    QCOMPARE(f.model->Tag, std::string("BA0003"));
+    QCOMPARE(f.Title(), QString("Description for BA0003"));
+    QVERIFY(f.window->mnuViewPhoto()->isVisible());
+    QVERIFY(!f.window->mnuViewSketch()->isVisible());
+
+    f.window->mnuViewPhoto()->trigger();  // not a picture: a message, and the text stays
+    QCOMPARE(f.fake.ui.MessageTexts(), std::vector<std::string>{"Invalid picture"});
+    QVERIFY(f.window->TextBox()->isVisible());
+    QCOMPARE(f.Title(), QString("Description for BA0003"));
+
+    f.ClickAt(10);  // the first line: the PID of the second
+    QCOMPARE(f.model->Tag, std::string("PQ0001"));
+    QVERIFY(f.window->mnuViewSketch()->isVisible());
+  }
+
+  void escapeClosesAndKeepsTheText() {
+    Fixture f;
+    f.window->mnuViewPhoto()->trigger();
+    QTest::keyClick(f.window.get(), Qt::Key_Escape);
+    QVERIFY(!f.window->isVisible());
+    QCOMPARE(f.model->Tag, std::string());
+    QCOMPARE(f.model->PhotoFlag, 0);
+    QVERIFY(f.model->imgPhoto.empty());
+    QCOMPARE(f.model->txtViewFile, Text());
+  }
+
+  void typingGoesIntoTheModel() {
+    Fixture f;
+    f.model->txtViewFile.clear();
+    f.window->LoadFromModel();
+    f.window->TextBox()->setFocus();
+    QTest::keyClicks(f.window->TextBox(), "AB1234");
+    QTest::keyClick(f.window->TextBox(), Qt::Key_Return);
+    QTest::keyClicks(f.window->TextBox(), "CD5678");
+    QCOMPARE(f.model->txtViewFile, std::string("AB1234\r\nCD5678"));
+    QCOMPARE(f.model->SelStart, std::size_t(14));
+  }
+
+  // The screen shows one line break per CR LF and the code page's characters; positions map back.
+  void displayTextConversion() {
+    const std::string bytes = "A\r\nB\x80\xE9\rC";
+    const QString shown = qt::ToDisplayText(bytes);
+    QCOMPARE(shown, QString::fromUtf8("A\nB\u20AC\u00E9\nC"));
+    QCOMPARE(qt::FromDisplayText(shown), std::string("A\r\nB\x80\xE9\r\nC"));
+    QCOMPARE(qt::FromDisplayText(QString::fromUtf8("\u4E2D")), std::string("?"));
+    const std::pair<int, std::size_t> positions[] = {{0, 0}, {1, 1}, {2, 3}, {5, 6}, {6, 7}, {7, 8}};
+    for (const auto& [display, model] : positions) {
+      QCOMPARE(qt::ModelPosition(bytes, display), model);
+      QCOMPARE(qt::DisplayPosition(bytes, model), display);
+    }
+  }
+
+  void saveAsWritesTheText() {
+    Fixture f;
+    const std::string path = f.folder.File("saved.dat");
+    f.fake.ui.fileAnswers.push_back(path);
+    f.window->mnuFileSaveAs()->trigger();
+    QCOMPARE(ReadWholeFile(path), Text());
+    f.window->mnuPrintDesc()->trigger();
+    QCOMPARE(f.fake.ui.MessageTexts().back(), std::string("This command is not available yet."));
+  }
+};
+
+QTEST_MAIN(FrmViewTest)
+#include "frm_view_test.moc"

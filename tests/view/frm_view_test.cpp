@@ -1,0 +1,315 @@
+#include <gtest/gtest.h>
+
+#include "app/command_table.hpp"
+#include "app/session.hpp"
+#include "common/files.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
+#include "view/frm_view.hpp"
+
+namespace benchlog {
+namespace {
+
+using testing::FakePlatform;
+using testing::TempFolder;
+
+// A dataset folder where PH0001 has a photo only, SK0002 a sketch only, PS0003 both.
+struct ViewSetup {
+  TempFolder folder;
+  std::string dir = folder.Path() + "/";
+  FakePlatform fake;
+  frmView view;
+  ViewSetup() {
+    folder.Write("PH0001ph.jpg", "jpeg");
+    folder.Write("SK0002sk.jpg", "jpeg");
+    folder.Write("PS0003ph.jpg", "jpeg");
+    folder.Write("PS0003sk.jpg", "jpeg");
+  }
+  void ShowMark(const std::string& pid) {
+    view.Tag = pid;
+    view.Activate(dir);
+  }
+};
+
+TEST(frmView, ActivationOffersThePicturesThatExist) {
+  struct Case {
+    const char* pid;
+    bool photo, sketch;
+  };
+  const Case cases[] = {{"PH0001", true, false}, {"SK0002", false, true}, {"PS0003", true, true}, {"NO0004", false, false}};
+  for (const auto& c : cases) {
+    ViewSetup s;
+    s.view.SelStart = 55;
+    s.view.mnuViewDescVisible = true;
+    s.ShowMark(c.pid);
+    EXPECT_EQ(s.view.PhotoPath, s.dir + c.pid + "ph.jpg");
+    EXPECT_EQ(s.view.SketchPath, s.dir + c.pid + "sk.jpg");
+    EXPECT_EQ(s.view.mnuViewPhotoVisible, c.photo) << c.pid;
+    EXPECT_EQ(s.view.mnuViewSketchVisible, c.sketch) << c.pid;
+    EXPECT_EQ(s.view.HasPhoto, c.photo ? 1 : 0) << c.pid;
+    EXPECT_EQ(s.view.HasSketch, c.sketch ? 1 : 0) << c.pid;
+    EXPECT_FALSE(s.view.mnuViewDescVisible);
+    EXPECT_EQ(s.view.SelStart, 0u);
+  }
+}
+
+TEST(frmView, PhotoThenDescription) {
+  ViewSetup s;
+  s.ShowMark("PH0001");
+  s.view.mnuViewPhoto(s.fake.ui);
+  EXPECT_EQ(s.view.PhotoFlag, 1);
+  EXPECT_FALSE(s.view.txtViewFileVisible);
+  EXPECT_TRUE(s.view.imgPhotoVisible);
+  EXPECT_EQ(s.view.imgPhoto, s.dir + "PH0001ph.jpg");
+  EXPECT_EQ(s.view.Caption, "View Photo for point PH0001");
+  EXPECT_TRUE(s.view.mnuViewDescVisible);
+  EXPECT_FALSE(s.view.mnuViewPhotoVisible);
+  EXPECT_FALSE(s.view.mnuViewSketchVisible);
+
+  s.view.mnuViewDesc();
+  EXPECT_EQ(s.view.PhotoFlag, 0);
+  EXPECT_TRUE(s.view.txtViewFileVisible);
+  EXPECT_FALSE(s.view.imgPhotoVisible);
+  EXPECT_EQ(s.view.Caption, "View Description for point PH0001");
+  EXPECT_FALSE(s.view.mnuViewDescVisible);
+  EXPECT_TRUE(s.view.mnuViewPhotoVisible);
+  EXPECT_FALSE(s.view.mnuViewSketchVisible);
+}
+
+// The sketch's caption has no PID, and PhotoFlag keeps what the photo set.
+TEST(frmView, SketchAfterPhoto) {
+  ViewSetup s;
+  s.ShowMark("PS0003");
+  s.view.mnuViewPhoto(s.fake.ui);
+  EXPECT_TRUE(s.view.mnuViewSketchVisible);
+  s.view.mnuViewSketch(s.fake.ui);
+  EXPECT_EQ(s.view.Caption, "View Sketch for point");
+  EXPECT_EQ(s.view.PhotoFlag, 1);
+  EXPECT_EQ(s.view.imgPhoto, s.dir + "PS0003sk.jpg");
+  EXPECT_TRUE(s.view.mnuViewPhotoVisible);
+  EXPECT_FALSE(s.view.mnuViewSketchVisible);
+  EXPECT_TRUE(s.view.mnuViewDescVisible);
+
+  ViewSetup t;
+  t.ShowMark("SK0002");
+  t.view.mnuViewSketch(t.fake.ui);
+  EXPECT_EQ(t.view.PhotoFlag, 0);
+  EXPECT_FALSE(t.view.mnuViewPhotoVisible);
+}
+
+TEST(frmView, APictureThatCannotBeLoadedLeavesTheView) {
+  ViewSetup s;
+  s.ShowMark("PS0003");
+  const std::string caption = s.view.Caption;
+  s.view.mnuViewPhoto(s.fake.ui, [](const std::string&) { return std::string("Invalid picture"); });
+  EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{"Invalid picture"});
+  EXPECT_EQ(s.view.PhotoFlag, 0);
+  EXPECT_TRUE(s.view.txtViewFileVisible);
+  EXPECT_EQ(s.view.imgPhoto, "");
+  EXPECT_EQ(s.view.Caption, caption);
+  EXPECT_TRUE(s.view.mnuViewPhotoVisible);
+
+  DeleteFileIfExists(s.folder.File("PS0003sk.jpg"));  // gone since activation
+  s.view.mnuViewSketch(s.fake.ui);
+  EXPECT_EQ(s.fake.ui.MessageTexts().back(), "File not found");
+  EXPECT_TRUE(s.view.txtViewFileVisible);
+
+  ViewSetup t;
+  t.ShowMark("NO0004");
+  t.view.mnuViewPhoto(t.fake.ui);  // no photo: nothing happens
+  EXPECT_TRUE(t.fake.ui.messages.empty());
+  EXPECT_EQ(t.view.PhotoFlag, 0);
+}
+
+// Three Descriptions of three lines each, every line 78 characters and CR LF: line n starts at
+// byte 80 * n.
+std::string ThreeDescriptions() {
+  std::string text;
+  for (const char* pid : {"PH0001", "SK0002", "PS0003"}) {
+    text += "1" + std::string(6, ' ') + std::string(71, 'h') + "\r\n";
+    for (int line = 0; line < 2; ++line) text += " " + std::string(pid) + std::string(71, 'd') + "\r\n";
+  }
+  return text;
+}
+
+TEST(frmView, AClickShowsTheMarkOfTheLineNearIt) {
+  struct Case {
+    std::size_t selStart;
+    const char* pid;
+    bool photo, sketch;
+  };
+  const Case cases[] = {
+      {10, "PH0001", true, false},      // first 80 characters: the line after the first CR LF
+      {0, "PH0001", true, false},
+      {7 * 80 + 19, "PS0003", true, true},  // inside the third Description
+      {8 * 80 + 5, "PS0003", true, true},
+      {4 * 80 + 40, "SK0002", false, true},
+      {6 * 80, "      ", false, false},  // the start of a header line: its blanks
+  };
+  for (const auto& c : cases) {
+    ViewSetup s;
+    s.view.txtViewFile = ThreeDescriptions();
+    s.ShowMark("PH0001");
+    s.view.SelStart = c.selStart;
+    s.view.FollowClick(s.dir);
+    EXPECT_EQ(s.view.Tag, c.pid) << c.selStart;
+    EXPECT_EQ(s.view.Caption, std::string("Description for ") + c.pid) << c.selStart;
+    EXPECT_EQ(s.view.mnuViewPhotoVisible, c.photo) << c.selStart;
+    EXPECT_EQ(s.view.mnuViewSketchVisible, c.sketch) << c.selStart;
+    EXPECT_EQ(s.view.PhotoPath, s.dir + c.pid + "ph.jpg") << c.selStart;
+  }
+}
+
+TEST(frmView, AClickOnAListingOrAPlainText) {
+  ViewSetup s;
+  s.view.txtViewFile = ThreeDescriptions();
+  s.view.Tag = "View listing";
+  s.view.Caption = "Hcl File";
+  s.view.SelStart = 400;
+  s.view.FollowClick(s.dir);
+  EXPECT_EQ(s.view.Tag, "View listing");
+  EXPECT_EQ(s.view.Caption, "Hcl File");
+
+  s.view.Tag = "";
+  s.view.txtViewFile = "hello there";
+  s.view.SelStart = 2;
+  s.view.FollowClick(s.dir);  // no CR LF: the slice from its third character
+  EXPECT_EQ(s.view.Tag, "llo th");
+  EXPECT_EQ(s.view.Caption, "Description for llo th");
+}
+
+TEST(frmView, SaveAsFilterByKindOfText) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"dat", "MkData Files (*.dat)|*.dat"},   {"hcl", "Horiz Listing (*.hcl)|*.hcl"},
+      {"vcl", "Vertical Listing (*.vcl)|*.vcl"}, {"txt", "Text File (*.txt)|*.txt"},
+      {"ndx", "Index File (*.ndx)|*.ndx"},     {"rpt", "Report File (*.rpt)|*.rpt"},
+      {"kml", ""},                             {"", ""}};
+  for (const auto& [type, filter] : cases) {
+    ViewSetup s;
+    s.view.strFileType = type;
+    s.view.txtViewFile = "text\r\n";
+    s.fake.ui.fileAnswers.push_back(s.folder.File("out.txt"));
+    s.view.mnuFileSaveAs(s.fake.ui);
+    ASSERT_EQ(s.fake.ui.fileDialogs.size(), 1u);
+    const FileDialogRequest& request = s.fake.ui.fileDialogs[0];
+    EXPECT_EQ(request.filter, filter) << type;
+    EXPECT_EQ(request.title, "Save file as:");
+    EXPECT_EQ(request.initDir, "");
+    EXPECT_TRUE(request.save);
+    EXPECT_EQ(ReadWholeFile(s.folder.File("out.txt")), "text\r\n");
+    EXPECT_TRUE(s.fake.ui.messages.empty());
+  }
+}
+
+TEST(frmView, SaveAsAsksBeforeReplacing) {
+  struct Case {
+    MsgResult answer;
+    const char* after;
+  };
+  for (const Case& c : {Case{MsgResult::No, "old"}, Case{MsgResult::Yes, "new text"}}) {
+    ViewSetup s;
+    s.view.txtViewFile = "new text";
+    const std::string path = s.folder.Write("out.hcl", "old");
+    s.fake.ui.fileAnswers.push_back(path);
+    s.fake.ui.msgAnswers.push_back(c.answer);
+    s.view.mnuFileSaveAs(s.fake.ui);
+    ASSERT_EQ(s.fake.ui.messages.size(), 1u);
+    const MessageRequest& asked = s.fake.ui.messages[0];
+    EXPECT_EQ(asked.text, "File exists.  Overwrite?");
+    EXPECT_EQ(asked.buttons, MsgButtons::YesNo);
+    EXPECT_EQ(asked.title, "File Save As");
+    EXPECT_EQ(asked.defaultButton, 2);
+    EXPECT_EQ(ReadWholeFile(path), c.after);
+  }
+}
+
+TEST(frmView, SaveAsCancelledOrUnwritable) {
+  ViewSetup s;
+  s.fake.ui.fileAnswers.push_back("");  // cancel
+  s.view.mnuFileSaveAs(s.fake.ui);
+  EXPECT_TRUE(s.fake.ui.messages.empty());
+  s.fake.ui.fileAnswers.push_back(s.folder.File("no/such/folder/out.txt"));
+  s.view.mnuFileSaveAs(s.fake.ui);
+  EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{"Path/File access error"});
+}
+
+TEST(frmView, PrintIsNotThereYet) {
+  ViewSetup s;
+  s.view.mnuPrintDesc(s.fake.ui);
+  EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
+  EXPECT_EQ(s.fake.ui.messages[0].icon, MsgIcon::None);
+}
+
+TEST(frmView, ClosingResetsButKeepsTheText) {
+  ViewSetup s;
+  s.view.txtViewFile = "kept";
+  s.ShowMark("PH0001");
+  s.view.mnuViewPhoto(s.fake.ui);
+  s.view.Close();
+  EXPECT_EQ(s.view.PhotoFlag, 0);
+  EXPECT_TRUE(s.view.txtViewFileVisible);
+  EXPECT_FALSE(s.view.imgPhotoVisible);
+  EXPECT_EQ(s.view.imgPhoto, "");
+  EXPECT_EQ(s.view.Tag, "");
+  EXPECT_EQ(s.view.txtViewFile, "kept");
+}
+
+TEST(frmView, LoadsItsSettingsWithDefaults) {
+  testing::MemorySettings settings;
+  frmView view;
+  view.Load(settings);
+  EXPECT_EQ(view.placement.state, 0);
+  EXPECT_EQ(view.placement.top, 0);
+  EXPECT_EQ(view.placement.left, 0);
+  EXPECT_EQ(view.placement.height, 8475);
+  EXPECT_EQ(view.placement.width, 9255);
+  settings.SaveSetting("frmView", "Windowstate", "2");
+  settings.SaveSetting("frmView", "Top", "300");
+  settings.SaveSetting("frmView", "Width", "12000");
+  settings.SaveSetting("frmView", "WindowState", "1");  // frmMain's spelling is not this window's
+  view.Load(settings);
+  EXPECT_EQ(view.placement.state, 2);
+  EXPECT_EQ(view.placement.top, 300);
+  EXPECT_EQ(view.placement.width, 12000);
+}
+
+TEST(frmView, UnloadSavesThePlacement) {
+  struct Case {
+    WindowPlacement placement;
+    std::vector<std::string> saved;
+  };
+  const Case cases[] = {
+      {{kNormal, 150, 300, 6000, 7000},
+       {"frmView/Height=6000", "frmView/Left=300", "frmView/Top=150", "frmView/Width=7000", "frmView/Windowstate=0"}},
+      {{kNormal, -45, 300, 6000, 7000},
+       {"frmView/Height=6000", "frmView/Left=300", "frmView/Width=7000", "frmView/Windowstate=0"}},
+      {{kMaximized, 150, 300, 6000, 7000}, {"frmView/Windowstate=2"}},
+  };
+  for (const auto& c : cases) {
+    testing::MemorySettings settings;
+    frmView view;
+    view.placement = c.placement;
+    view.Tag = "PH0001";
+    view.mnuViewDescVisible = view.mnuViewPhotoVisible = view.mnuViewSketchVisible = true;
+    view.Unload(settings);
+    std::vector<std::string> saved;
+    for (const auto& [key, value] : settings.values) saved.push_back(key + "=" + value);
+    EXPECT_EQ(saved, c.saved);
+    EXPECT_EQ(view.Tag, "");
+    EXPECT_FALSE(view.mnuViewDescVisible);
+    EXPECT_FALSE(view.mnuViewPhotoVisible);
+    EXPECT_TRUE(view.mnuViewSketchVisible);
+  }
+}
+
+TEST(frmView, OneViewerPerSession) {
+  Session session;
+  FakePlatform fake;
+  frmView& view = ViewForm(session, fake.platform);
+  EXPECT_EQ(&view, &ViewForm(session, fake.platform));
+  EXPECT_EQ(view.session, &session);
+  EXPECT_EQ(view.platform, &fake.platform);
+}
+
+}  // namespace
+}  // namespace benchlog
