@@ -11,8 +11,9 @@ inline constexpr const char* kMonumentCategoryFileName = "Monument_Category.dat"
 // The category of a marker code: reads "Monument_Category.dat" in `supportPath` (a folder ending
 // in a separator) line by line to its end, and gives the first character of the first line whose
 // text from column 3 on, trimmed, equals `code` (exact, case-sensitive). "" when no line matches.
-// The file is read anew on every call, so a changed table takes effect at once. Throws
-// RuntimeFailure FileNotFound when the file is missing.
+// The file is consulted anew on every call: its content is kept between calls and read again
+// whenever its size or modification time changed, so a changed table takes effect at once.
+// Throws RuntimeFailure FileNotFound when the file is missing.
 std::string MonumentCategory(const std::string& supportPath, std::string_view code);
 
 }  // namespace benchlog

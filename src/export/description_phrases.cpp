@@ -1,0 +1,169 @@
+// What any line of a Description may hold besides its key: phrases of the notes, state plane
+// labels, the primary azimuth mark, box score rows; and the descriptive text with its notes.
+#include <array>
+
+#include "common/dates.hpp"
+#include "common/text.hpp"
+#include "dataset/dataset_text.hpp"
+#include "export/description_parser.hpp"
+#include "export/fit_text.hpp"
+#include "export/note_header.hpp"
+#include "export/support_file_cache.hpp"
+#include "geodesy/format_padded.hpp"
+
+namespace benchlog {
+namespace {
+
+constexpr std::size_t kTextWidth = 4900;  // DescriptiveText keeps the last characters of the text
+constexpr std::string_view kParagraphBreak = "\r\n\r\n";
+
+}  // namespace
+
+DescriptionParser::DescriptionParser(MarkRecord& record, const ParseGroups& groups, const std::string& supportPath)
+    : record_(record), groups_(groups), supportPath_(supportPath) {}
+
+void DescriptionParser::ReadLine(std::string_view line, std::string_view next) {
+  if (ColumnChar(line, 8) == '\'') {
+    if (groups_.wantText) ReadTextLine(line);
+    return;
+  }
+  ReadKey(line);
+  ReadPhrases(line, next);
+}
+
+void DescriptionParser::Finish() {
+  if (!groups_.wantText) return;
+  std::string_view text = text_;
+  if (text.size() > kTextWidth) text = text.substr(text.size() - kTextWidth);
+  record_.DescriptiveText = text;
+  record_.HistoryTable = historyRows_;
+}
+
+const ContributorTable& DescriptionParser::Contributors() {
+  if (!contributors_)
+    contributors_ = CachedSupportTable<ContributorTable>(supportPath_ + kContributorsFileName, ContributorTable::Load);
+  return *contributors_;
+}
+
+void DescriptionParser::ReadPhrases(std::string_view line, std::string_view next) {
+  if (groups_.wantPosition) {
+    if (Holds(line, "established by GPS")) record_.HorizType = "G";
+    if (Holds(line, "and adjusted by") && Holds(line, "horizontal coordinates")) ReadHorizontalAdjustment(line, next);
+    if (Columns(line, 8, 34) == ".No horizontal observational check") record_.NoHorizCheck = "N";
+    if (Holds(line, "established by VLBI")) {
+      record_.HorizType = "V";
+    } else if (Holds(line, "established by GPS")) {
+      record_.HorizType = "G";
+    }
+    if (Columns(line, 8, 34) == ".This is a SPECIAL STATUS position") record_.SpecialStatus = "Y";
+    if (Holds(line, "and adjusted") && Holds(line, "orthometric height")) ReadVerticalAdjustment(line);
+    if (Columns(line, 8, 32) == ".No vertical observational check") record_.NoVertCheck = "N";
+    if (Holds(line, "DEFLEC")) record_.DeflectionModel = Columns(line, 56, 2);
+    const auto referenced = line.find("is referenced to");
+    if (referenced != std::string_view::npos && Holds(line, "ellipsoidal height"))
+      record_.EllipDatum = Columns(line, referenced + 1 + 21, 2);
+    const std::string_view mark = Columns(line, 8, 4);
+    if (mark == ";SPC") ReadSpcLabel(line);
+    if (mark == ":UTM") primaryAzimuthName_ = Columns(line, 25, 30);
+    if (Columns(line, 8, 2) == "| " && !IsBlankLine(Columns(line, 13, 3))) ReadBoxRow(line);
+    if (Columns(line, 34, 25) == "SUPERSEDED SURVEY CONTROL") record_.Superseded = "Y";
+  }
+  if (groups_.wantText && Columns(line, 34, 16) == "STATION RECOVERY") text_ += kParagraphBreak;
+}
+
+// "... horizontal coordinates ... and adjusted by the <agency> in <date>", wrapped onto the next
+// line when " in " has not come yet.
+void DescriptionParser::ReadHorizontalAdjustment(std::string_view line, std::string_view next) {
+  std::string text(line);
+  if (!Holds(text, " in ")) text += Columns(next, 9, std::string_view::npos);
+  static constexpr std::string_view kAdjustedBy = "adjusted by the ";
+  const auto by = text.find(kAdjustedBy);
+  if (by == std::string::npos) return;
+  const std::string_view rest = std::string_view(text).substr(by + kAdjustedBy.size());
+  const auto in = rest.find(" in ");
+  record_.AdjAgency = Contributors().CodeOf(TrimmedView(rest.substr(0, in)));
+  if (in == std::string_view::npos) return;
+  if (const auto date = ReadDate(ReplaceAll(rest.substr(in + 4), ".", ""))) record_.AdjDate = FormatYyyymmdd(*date);
+}
+
+// The agency stands from column 29 up to " in ", the date after it; the date text is taken as
+// it reads, the zero date when it is none.
+void DescriptionParser::ReadVerticalAdjustment(std::string_view line) {
+  const std::string_view text = Columns(line, 29, std::string_view::npos);
+  const auto in = text.find(" in ");
+  record_.VertAdjAgency = Contributors().CodeOf(TrimmedView(text.substr(0, in)));
+  if (in != std::string_view::npos) record_.VertAdjDate = DateTextToYyyymmdd(text.substr(in + 4));
+}
+
+// The first five distinct state plane labels, in the order met.
+void DescriptionParser::ReadSpcLabel(std::string_view line) {
+  const std::string_view label = Columns(line, 13, 5);
+  for (FixedText<5>* slot :
+       {&record_.SpcZone1, &record_.SpcZone2, &record_.SpcZone3, &record_.SpcZone4, &record_.SpcZone5}) {
+    if (slot->IsBlank()) {
+      *slot = label;
+      return;
+    }
+    if (*slot == label) return;
+  }
+}
+
+// A row of the box score: PID 6, kind letter 1, distance 10, azimuth 9, name 30. The record keeps
+// the last row read.
+void DescriptionParser::ReadBoxRow(std::string_view line) {
+  const std::string_view name = Columns(line, 17, 30);
+  char kind = 'N';
+  if (name == primaryAzimuthName_) {
+    kind = 'A';
+  } else if (line.find(" RM ", 16) != std::string_view::npos) {
+    kind = 'R';
+  } else if (line.find(" AZ ", 16) != std::string_view::npos) {
+    kind = 'Z';
+  }
+  std::string row(Columns(line, 10, 6));
+  row += kind;
+  if (Columns(line, 53, 6) == "APPROX") {
+    row += FormatPadded(Columns(line, 60, 4), "####.###");
+    row += "KM";
+  } else {
+    row += Columns(line, 52, 8);
+    row += " M";
+  }
+  row += Columns(line, 68, 9);
+  row += name;
+  record_.BoxScore = row;
+}
+
+void DescriptionParser::ReadTextLine(std::string_view line) {
+  const std::string_view body = Columns(line, 9, 72);
+  if (IsBlankLine(body)) {
+    text_ += kParagraphBreak;
+  } else if (TrimmedView(Columns(line, 9, 12)) == "DESCRIBED BY") {
+    text_ += body;
+    text_ += kCrLf;
+    ReadNoteHeader(body, false);
+  } else if (TrimmedView(Columns(line, 9, 16)) == "RECOVERY NOTE BY") {
+    text_ += body;
+    text_ += kCrLf;
+    ReadNoteHeader(body, true);
+  } else {
+    text_ += TrimmedView(body);
+    text_ += ' ';
+  }
+}
+
+// The description's note belongs to the first history row, each recovery note to the next one;
+// a note whose year and agency match its row gives the row its writer's initials.
+void DescriptionParser::ReadNoteHeader(std::string_view headerText, bool recoveryNote) {
+  const NoteHeader header = SplitNoteHeader(headerText, Contributors());
+  historyPointer_ = recoveryNote ? historyPointer_ + 1 : 1;
+  if (historyPointer_ * kHistoryRowWidth > historyRows_.size()) return;
+  const std::size_t at = (historyPointer_ - 1) * kHistoryRowWidth;
+  const std::string_view row = std::string_view(historyRows_).substr(at, kHistoryRowWidth);
+  if (row.substr(0, 4) != header.year || row.substr(9, 6) != FitText(header.agencyCode, 6)) return;
+  const std::string initials = FitText(header.initials, 3);
+  historyRows_.replace(at + 15, 3, initials);
+  if (recoveryNote) record_.LastReporter = initials;
+}
+
+}  // namespace benchlog

@@ -1,0 +1,48 @@
+#include "export/parse_description.hpp"
+
+#include "dataset/dataset_text.hpp"
+#include "export/description_parser.hpp"
+
+namespace benchlog {
+namespace {
+
+// The line loop: the lines of the PID from `start` on, up to the first other line after a match.
+template <typename Line>
+void ParseLines(std::string_view pid, std::span<const Line> lines, std::size_t start, const ParseGroups& groups,
+                std::string& ErrMsg, MarkRecord& record, const std::string& supportPath) {
+  record.RecordKind = "R";
+  record.Epoch.Clear();
+  record.Net.Clear();
+  record.LastReporter.Clear();
+
+  DescriptionParser parser(record, groups, supportPath);
+  bool matched = false;
+  for (std::size_t i = start; i < lines.size(); ++i) {
+    const std::string_view line = lines[i];
+    if (LinePid(line) != pid) {
+      if (matched) break;
+      continue;
+    }
+    matched = true;
+    const std::string_view next = i + 1 < lines.size() ? std::string_view(lines[i + 1]) : std::string_view();
+    parser.ReadLine(line, next);
+  }
+  parser.Finish();
+  if (!matched) ErrMsg = "Data not found!";
+}
+
+}  // namespace
+
+void ParseDescription(std::string_view pid, std::span<const std::string> lines, std::size_t start,
+                      const ParseGroups& groups, std::string& ErrMsg, MarkRecord& record,
+                      const std::string& supportPath) {
+  ParseLines(pid, lines, start, groups, ErrMsg, record, supportPath);
+}
+
+void ParseDescription(std::string_view pid, std::span<const std::string_view> lines, std::size_t start,
+                      const ParseGroups& groups, std::string& ErrMsg, MarkRecord& record,
+                      const std::string& supportPath) {
+  ParseLines(pid, lines, start, groups, ErrMsg, record, supportPath);
+}
+
+}  // namespace benchlog

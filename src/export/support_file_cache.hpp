@@ -1,0 +1,47 @@
+#pragma once
+// The parsed form of a support file, kept between look-ups. The export consults the category and
+// contributors tables for every Description, and reading a file each time is what made that slow;
+// here a file is read again only when its size or modification time has changed since it was
+// last read, so an edited table still takes effect at the next look-up.
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <unordered_map>
+
+namespace benchlog {
+
+// What tells one version of a file from another.
+struct FileStamp {
+  std::uintmax_t size = 0;
+  std::int64_t modified = 0;  // modification time in the file system's clock ticks
+  bool operator==(const FileStamp&) const = default;
+};
+
+// The stamp of an existing regular file; throws RuntimeFailure FileNotFound when there is none.
+FileStamp StampOfFile(const std::string& path);
+
+// The table made by `load(path)` from the file at `path`, made again whenever the file's stamp
+// differs from the one it was made from. Throws FileNotFound when the file is missing, and
+// whatever `load` throws. Safe to call from several threads.
+template <typename Table>
+std::shared_ptr<const Table> CachedSupportTable(const std::string& path,
+                                                const std::function<Table(const std::string&)>& load) {
+  struct Entry {
+    FileStamp stamp;
+    std::shared_ptr<const Table> table;
+  };
+  static std::mutex mutex;
+  static std::unordered_map<std::string, Entry> entries;
+
+  const FileStamp stamp = StampOfFile(path);
+  std::lock_guard lock(mutex);
+  auto found = entries.find(path);
+  if (found != entries.end() && found->second.stamp == stamp) return found->second.table;
+  auto table = std::make_shared<const Table>(load(path));
+  entries[path] = Entry{stamp, table};
+  return table;
+}
+
+}  // namespace benchlog

@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+#include "export/fit_text.hpp"
+#include "export/mark_record.hpp"
+
+namespace benchlog {
+namespace {
+
+TEST(FixedText, StoringCutsOrPadsToTheWidth) {
+  struct Case {
+    std::string value;
+    std::string stored;
+  };
+  const Case cases[] = {
+      {"", "    "},         {"AB", "AB  "},     {"ABCD", "ABCD"},
+      {"ABCDEF", "ABCD"},   {" A ", " A  "},    {std::string("A\0B", 3), "A B "},
+  };
+  for (const auto& c : cases) {
+    FixedText<4> field;
+    field = c.value;
+    EXPECT_EQ(field.View(), c.stored) << c.value;
+  }
+}
+
+TEST(FixedText, ComparesAsTheValueWouldBeStored) {
+  FixedText<4> field;
+  field = "12";
+  EXPECT_TRUE(field == "12");
+  EXPECT_TRUE(field == "12  ");
+  EXPECT_FALSE(field == "1");
+  EXPECT_FALSE(field == " 12");
+  EXPECT_EQ(field.Trimmed(), "12");
+  EXPECT_FALSE(field.IsBlank());
+  field.Clear();
+  EXPECT_TRUE(field.IsBlank());
+  EXPECT_TRUE(field == "");
+  EXPECT_EQ(field.Trimmed(), "");
+}
+
+// The widths of the record's table; their sum is the record's size, so no field is missing from
+// the list of names and none is laid out wider than its width.
+TEST(MarkRecord, EveryFieldIsNamedOnceWithItsWidth) {
+  MarkRecord record;
+  std::set<std::string> names;
+  std::size_t total = 0;
+  VisitFields(record, [&](std::string_view name, const auto& field) {
+    EXPECT_TRUE(names.insert(std::string(name)).second) << name;
+    total += field.View().size();
+  });
+  // 81 fields (SpcZone1 to SpcZone5 counting five) whose widths add up to 7630 characters.
+  EXPECT_EQ(names.size(), 81u);
+  EXPECT_EQ(total, 7630u);
+  EXPECT_EQ(sizeof(MarkRecord), total);
+}
+
+TEST(MarkRecord, FieldsReadByName) {
+  MarkRecord record;
+  record.Latitude = "360342.56888";
+  record.Net = "ABTHPS";
+  EXPECT_EQ(FieldText(record, "Latitude"), "360342.56888");
+  EXPECT_EQ(FieldText(record, "Net"), "ABTHP");
+  EXPECT_EQ(FieldText(record, "Quad"), std::string(35, ' '));
+  EXPECT_FALSE(FieldText(record, "latitude").has_value());
+  EXPECT_FALSE(FieldText(record, "").has_value());
+}
+
+TEST(MarkRecord, ClearBlanksEveryField) {
+  MarkRecord record;
+  VisitFields(record, [](std::string_view, auto& field) { field = std::string(7000, 'Q'); });
+  ClearMarkRecord(record);
+  VisitFields(record, [](std::string_view name, const auto& field) { EXPECT_TRUE(field.IsBlank()) << name; });
+}
+
+TEST(MarkRecord, HorizontalAndVerticalFlags) {
+  struct Case {
+    std::string horizOrder, horizType, vertOrder;
+    bool horizontal, vertical;
+  };
+  const Case cases[] = {
+      {"", "", "", false, false},   {"1", "", "", true, false},    {"A", "G", "2", true, true},
+      {"0", "F", "1", true, true},  {"4", "", "", false, false},   {"2", "X", "", false, false},
+      {"B", "W", "4", false, true}, {"3", "E", "?", true, true},   {" ", "I", " ", false, false},
+  };
+  for (const auto& c : cases) {
+    MarkRecord record;
+    record.HorizOrder = c.horizOrder;
+    record.HorizType = c.horizType;
+    record.VertOrder = c.vertOrder;
+    EXPECT_EQ(HasHorizontalControl(record), c.horizontal) << c.horizOrder << "/" << c.horizType;
+    EXPECT_EQ(HasVerticalControl(record), c.vertical) << c.vertOrder;
+  }
+}
+
+TEST(FitText, TurnsNulsAndLineEndsIntoBlanksTrimsAndFits) {
+  struct Case {
+    std::string text;
+    std::size_t width;
+    std::string fitted;
+  };
+  const Case cases[] = {
+      {"  RDH ", 3, "RDH"},
+      {"RDH ", 5, "RDH  "},
+      {"WILLIAMS", 3, "WIL"},
+      {std::string("\0AB\0", 4), 4, "AB  "},
+      {"A\r\nB", 4, "A B "},
+      {"A\rB", 4, "A\rB "},
+      {"", 2, "  "},
+  };
+  for (const auto& c : cases) EXPECT_EQ(FitText(c.text, c.width), c.fitted) << c.text;
+}
+
+TEST(NullsToBlanks, ChangesNothingButNuls) {
+  EXPECT_EQ(NullsToBlanks(std::string("\0A \r\n\0", 6)), " A \r\n ");
+  EXPECT_EQ(NullsToBlanks("  x  "), "  x  ");
+}
+
+}  // namespace
+}  // namespace benchlog
