@@ -2,6 +2,7 @@
 #include "app/command_table.hpp"
 #include "dataset/dataset_commands.hpp"
 #include "dataset/dataset_file_commands.hpp"
+#include "export/export_commands.hpp"
 #include "view/view_by_class.hpp"
 
 namespace benchlog {
@@ -14,6 +15,7 @@ CommandTable BuildCommandTable() {
   RegisterDatasetCommands(table);
   RegisterDatasetFileCommands(table);
   RegisterViewCommands(table);
+  RegisterExportCommands(table);
   return table;
 }
 

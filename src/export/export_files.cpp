@@ -1,0 +1,136 @@
+#include "export/export_files.hpp"
+
+#include <memory>
+#include <vector>
+
+#include "common/format.hpp"
+#include "common/paths.hpp"
+#include "common/text.hpp"
+#include "export/export_forms.hpp"
+#include "export/export_names.hpp"
+#include "export/export_output.hpp"
+#include "export/find_descriptions.hpp"
+#include "export/listing_outputs.hpp"
+#include "export/mark_values.hpp"
+#include "export/parse_description.hpp"
+#include "geodesy/zone_table.hpp"
+
+namespace benchlog {
+namespace {
+
+using Outputs = std::vector<std::unique_ptr<ExportOutput>>;
+
+// The progress bar is repainted about 200 times over a run, however many marks there are.
+constexpr std::size_t kProgressSteps = 200;
+
+// What the options fix for the whole export: the zone, the units, UTM, the pictures' folder.
+ExportSetup SetupOf(const Session& session, const Platform& platform, const frmOutputOptions& options,
+                    const frmCDT& cdt) {
+  ExportSetup setup;
+  FindZoneLine(Left(options.cboProjZone, 5), "", setup.zoneLine, platform.paths.supportPath);
+  setup.utmZoneText = cdt.cboUTMZone;
+  setup.utmAsked = cdt.chkUTM == 1 || options.optUTM;
+  setup.coordinateFactor = options.optFeet ? GridFeetPerMetre(ZoneFootUnit(setup.zoneLine)) : 1;
+  // Elevations in feet are made by the vertical listing itself: the export's own elevation factor
+  // stays 1 whatever the buttons say, and the listing multiplies by it all the same.
+  setup.elevationFactor = 1;
+  setup.datasetFolder = session.DatFilePath;
+  return setup;
+}
+
+// Opens the ticked outputs in their order: horizontal listing, vertical listing, then the
+// database, the Street Atlas file and the script, which are not written yet (their boxes open
+// nothing and leave any old file alone). False, with `ErrMsg` set, at a read-only file.
+bool OpenOutputs(Session& session, const frmOutputOptions& options, const ExportNames& names,
+                 const ExportSetup& setup, Outputs& outputs, std::string& ErrMsg) {
+  if (options.chkHoriz == 1) {
+    if (!PrepareOutputPath(names.hcl, ErrMsg)) return false;
+    outputs.push_back(std::make_unique<HorizontalListing>(names.hcl, options.optFeet));
+    session.menu["mnuViewHcl"].enabled = true;
+  }
+  if (options.chkVert == 1) {
+    if (!PrepareOutputPath(names.vcl, ErrMsg)) return false;
+    outputs.push_back(std::make_unique<VerticalListing>(names.vcl, options.optFeet, options.optElFeet,
+                                                        setup.coordinateFactor, setup.elevationFactor));
+    session.menu["mnuViewVcl"].enabled = true;
+  }
+  return true;
+}
+
+void ShowProgress(Progress& progress) {
+  progress.caption = "Benchlog";
+  progress.lblProcessing = "Processing ";
+  progress.lblInfo = "Please wait...";
+  progress.barVisible = true;
+  progress.Show();
+}
+
+void RunExport(Session& session, Platform& platform, const std::string& strMkData, const std::string& OutFileName,
+               std::string& ErrMsg) {
+  const frmOutputOptions& options = OutputOptionsForm(session, platform);
+  const frmCDT& cdt = CdtForm(session, platform);
+
+  const ExportNames names = ExportNamesOf(OutFileName);
+  session.HclFile = names.hcl;
+  session.VclFile = names.vcl;
+  session.SA6File = names.sa6;
+  session.ErrFile = names.err;
+  session.strDBName = names.mdb;
+  session.OutFilePath = FolderOf(OutFileName);
+  const ExportSetup setup = SetupOf(session, platform, options, cdt);
+
+  Progress& progress = platform.dlgProcessing;
+  ShowProgress(progress);
+  Outputs outputs;
+  if (!OpenOutputs(session, options, names, setup, outputs, ErrMsg)) {
+    outputs.clear();  // closes what was opened
+    progress.Hide();
+    return;
+  }
+
+  const std::vector<std::string_view> lines = SplitCrLfViews(strMkData);
+  std::vector<std::size_t> starts;
+  std::vector<std::string> pids;
+  std::size_t count = 0;
+  FindDescriptions(lines, starts, pids, count);
+  progress.min = 0;
+  progress.max = static_cast<int>(count);
+  const std::size_t refreshEvery = count / kProgressSteps + 1;
+
+  auto record = std::make_unique<MarkRecord>();
+  MarkValues values;
+  for (std::size_t i = 1; i <= count; ++i) {
+    progress.value = static_cast<int>(i);
+    if (i % refreshEvery == 0 || i == count) progress.Refresh();
+    ClearMarkRecord(*record);
+    std::string parseError;  // every Description found has at least its first line
+    ParseDescription(pids[i - 1], lines, starts[i - 1], ParseGroups{}, parseError, *record,
+                     platform.paths.supportPath);
+    record->Serial = Format(static_cast<double>(i), "0000");
+    values.horizontal = HasHorizontalControl(*record);
+    values.vertical = HasVerticalControl(*record);
+    ComputePlaneValues(setup, *record, values);
+    ComputeUtmValues(setup, *record, values);
+    ComputePictureFlags(setup, *record, values);
+    for (auto& output : outputs) output->WriteMark(*record, pids[i - 1], values);
+  }
+
+  for (auto& output : outputs) output->Finish();
+  outputs.clear();
+  progress.Hide();
+  platform.ui.MsgBox("Processing complete!", MsgButtons::Ok, MsgIcon::None, "Create File(s)");
+}
+
+}  // namespace
+
+void ExportFiles(Session& session, Platform& platform, const std::string& strMkData, const std::string& OutFileName,
+                 std::string& ErrMsg) {
+  ErrMsg.clear();
+  try {
+    RunExport(session, platform, strMkData, OutFileName, ErrMsg);
+  } catch (const std::exception&) {
+    // A run-time failure ends the export without a report; the files close as they stand.
+  }
+}
+
+}  // namespace benchlog
