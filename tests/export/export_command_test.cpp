@@ -1,0 +1,299 @@
+// The Export command with a scripted user: its stops, the choice of marks, the output names, the
+// read-only files, the order in which outputs are opened, the progress dialog and its end; and
+// viewing the listings.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/command_table.hpp"
+#include "common/files.hpp"
+#include "common/line_input.hpp"
+#include "common/text.hpp"
+#include "export/export_commands.hpp"
+#include "export/export_run_support.hpp"
+#include "view/frm_select_points.hpp"
+#include "view/frm_view.hpp"
+
+namespace benchlog::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ExportCommand : public ExportRunTest {
+ protected:
+  void SetUp() override {
+    ExportRunTest::SetUp();
+    OpenDataset("fixture.dat");
+    Choose("NC    3200", false, false);
+  }
+  static void MakeReadOnly(const std::string& path) {
+    fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  }
+};
+
+TEST_F(ExportCommand, WithoutADatasetSaysSoAndAsksNothing) {
+  session.DatFile.clear();
+  mnuExport(session, fake.platform);
+  EXPECT_EQ(Messages(), std::vector<std::string>{"No mkdata file open!"});
+  EXPECT_TRUE(fake.ui.modals.empty());
+}
+
+// Okay leaves the tag alone, so after one Cancel every later export of the run ends at the
+// options, whichever button is pressed.
+TEST_F(ExportCommand, ACancelInTheOptionsEndsEveryLaterExport) {
+  fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmOutputOptions&>(m).cmdCancel_Click(); });
+  mnuExport(session, fake.platform);
+  RunExport(Out("export.out"));
+  EXPECT_EQ(fake.ui.modals.size(), 2u);
+  EXPECT_TRUE(fake.ui.fileDialogs.empty());
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_FALSE(FileExists(Out("export.hcl")));
+}
+
+TEST_F(ExportCommand, AsksForTheOutputNameBesideTheLastDataset) {
+  for (const bool saved : {false, true}) {
+    fake.ui.fileDialogs.clear();
+    if (saved) fake.settings.SaveSetting("Settings", "LastDatDirectory", "/data/marks/");
+    RunExport("");  // cancelled
+    ASSERT_EQ(fake.ui.fileDialogs.size(), 1u);
+    const FileDialogRequest& request = fake.ui.fileDialogs[0];
+    EXPECT_TRUE(request.save);
+    EXPECT_EQ(request.title, "Choose Output File Name");
+    EXPECT_EQ(request.fileName, "fixture");
+    EXPECT_EQ(request.initDir, saved ? "/data/marks/" : "c:\\");
+    EXPECT_EQ(request.filter, "");
+  }
+  // Cancelling the save dialog ends the command without a word.
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_FALSE(fake.progress.Visible());
+}
+
+TEST_F(ExportCommand, NamesTheOutputsFromTheChosenNameWithoutItsExtension) {
+  struct Case {
+    const char* chosen;
+    const char* stem;
+  };
+  for (const Case c : {Case{"plain", "plain"}, Case{"list.txt", "list"}, Case{"two.dots.txt", "two.dots"}}) {
+    RunExport(Out(c.chosen));
+    const std::string stem = Out(c.stem);
+    EXPECT_TRUE(FileExists(stem + ".hcl")) << c.chosen;
+    EXPECT_TRUE(FileExists(stem + ".vcl")) << c.chosen;
+    EXPECT_EQ(session.HclFile, stem + ".hcl");
+    EXPECT_EQ(session.VclFile, stem + ".vcl");
+    EXPECT_EQ(session.SA6File, stem + "_sa6.txt");
+    EXPECT_EQ(session.ErrFile, stem + ".err");
+    EXPECT_FALSE(FileExists(stem + ".err")) << "no error listing is written";
+  }
+}
+
+// The listings are opened in order, each old file deleted first: a read-only ".vcl" is found
+// after the ".hcl" was already emptied.
+TEST_F(ExportCommand, AReadOnlyVclLeavesAnEmptyHclBehind) {
+  folder.Write("export.hcl", "old horizontal listing\r\n");
+  MakeReadOnly(folder.Write("export.vcl", "old vertical listing\r\n"));
+  RunExport(Out("export.txt"));
+
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text, Out("export.vcl") + " exists and is read-only!");
+  EXPECT_EQ(fake.ui.messages[0].title, "Export Files");
+  EXPECT_TRUE(FileExists(Out("export.hcl")));
+  EXPECT_EQ(FileLength(Out("export.hcl")), 0u);
+  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), "old vertical listing\r\n");
+  EXPECT_FALSE(fake.progress.Visible());
+  EXPECT_TRUE(session.menu["mnuViewHcl"].enabled);
+}
+
+TEST_F(ExportCommand, AReadOnlyHclStopsBeforeTheVclIsTouched) {
+  MakeReadOnly(folder.Write("export.hcl", "old horizontal listing\r\n"));
+  folder.Write("export.vcl", "old vertical listing\r\n");
+  session.menu["mnuViewVcl"].enabled = false;
+  RunExport(Out("export.txt"));
+  EXPECT_EQ(Messages(), std::vector<std::string>{Out("export.hcl") + " exists and is read-only!"});
+  EXPECT_EQ(ReadWholeFile(Out("export.hcl")), "old horizontal listing\r\n");
+  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), "old vertical listing\r\n");
+  EXPECT_FALSE(session.menu["mnuViewVcl"].enabled);
+}
+
+TEST_F(ExportCommand, WithNoBoxTickedRunsThroughEveryDescriptionAndWritesNothing) {
+  Choose("NC    3200", false, false, false, false);
+  fake.progress.observer = [this](const Progress& p) { fake.progressHistory.push_back(p); };
+  RunExport(Out("export.txt"));
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Processing complete!"});
+  EXPECT_EQ(fake.ui.messages[0].title, "Create File(s)");
+  EXPECT_FALSE(FileExists(Out("export.hcl")));
+  EXPECT_FALSE(FileExists(Out("export.vcl")));
+  // Shown with its labels, run up to the count of Descriptions, hidden at the end.
+  ASSERT_FALSE(fake.progressHistory.empty());
+  const Progress& shown = fake.progressHistory.front();
+  EXPECT_TRUE(shown.Visible());
+  EXPECT_EQ(shown.caption, "Benchlog");
+  EXPECT_EQ(shown.lblProcessing, "Processing ");
+  EXPECT_EQ(shown.lblInfo, "Please wait...");
+  EXPECT_EQ(fake.progress.max, 19);
+  EXPECT_EQ(fake.progress.value, 19);
+  EXPECT_FALSE(fake.progress.Visible());
+}
+
+// The database, Street Atlas and script boxes open nothing yet; the database box brings up
+// frmCDT, whose Cancel ends the command.
+TEST_F(ExportCommand, TheDatabaseBoxAsksForItsColumns) {
+  Options().chkDB = 1;
+  Options().chkStreetAtlas = 1;
+  Options().chkMicrostation = 1;
+  fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmOutputOptions&>(m).cmdOkay_Click(); });
+  fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmCDT&>(m).cmdCancel_Click(); });
+  mnuExport(session, fake.platform);
+  EXPECT_TRUE(fake.ui.fileDialogs.empty());
+
+  RunExport(Out("export.txt"));
+  ASSERT_EQ(fake.ui.modals.size(), 4u);
+  EXPECT_NE(dynamic_cast<frmCDT*>(fake.ui.modals[3]), nullptr);
+  EXPECT_TRUE(Completed());
+  EXPECT_EQ(ReadWholeFile(Out("export.hcl")), ListingFixture("nc_meters.hcl"));
+  for (const char* untouched : {"export.mdb", "export_sa6.txt", "export.msf"}) EXPECT_FALSE(FileExists(Out(untouched)));
+}
+
+TEST_F(ExportCommand, ListsEveryIndexElementForTheChoiceOfMarks) {
+  BuildIndex();
+  Options().SetAllStations(false);
+  RunExport(Out("export.txt"), {"DH7204"});
+  const auto& list = session.forms.Get<FrmSelectPoints>();
+  EXPECT_EQ(list.caption, "Select Point(s) to export:");
+  ASSERT_EQ(list.lstPoints.size(), session.markIndex.Size());
+  EXPECT_EQ(list.lstPoints[0], "HILLSBORO                      ORANGE                  FY3210");
+  EXPECT_EQ(fake.ui.hidden.back(), &list);
+  // A mark that is no vertical control: the ".vcl" has 0 bytes and no heading.
+  EXPECT_TRUE(Completed());
+  EXPECT_EQ(FileLength(Out("export.vcl")), 0u);
+  EXPECT_EQ(SplitCrLf(ReadWholeFile(Out("export.hcl"))).size(), 4u);  // heading, line, empty line, end
+}
+
+TEST_F(ExportCommand, EndsWhenNoMarkIsChosen) {
+  BuildIndex();
+  Options().SetAllStations(false);
+  RunExport(Out("export.txt"), {});  // Okay with nothing selected
+  fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmOutputOptions&>(m).cmdOkay_Click(); });
+  fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<FrmSelectPoints&>(m).cmdCancel_Click(); });
+  mnuExport(session, fake.platform);
+  EXPECT_EQ(fake.ui.fileAnswers.size(), 1u) << "the save dialog was never asked";
+  EXPECT_TRUE(Messages().empty());
+}
+
+// More than 10000 selected marks fail on the table's bound; the command ends without a report.
+TEST_F(ExportCommand, MoreThanTenThousandChosenMarksEndWithoutAWord) {
+  std::vector<std::string> records;
+  for (int i = 0; i <= 10000; ++i) {
+    const std::string pid = "AA" + std::string(4 - std::to_string(i % 10000).size(), '0') + std::to_string(i % 10000);
+    records.push_back(pid + std::string(139, ' '));
+  }
+  session.markIndex.Assign(records);
+  Options().SetAllStations(false);
+  fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmOutputOptions&>(m).cmdOkay_Click(); });
+  fake.ui.modalActions.push_back([](DialogModel& m) {
+    auto& list = dynamic_cast<FrmSelectPoints&>(m);
+    list.selected.assign(list.lstPoints.size(), true);
+    list.cmdOkay_Click();
+  });
+  mnuExport(session, fake.platform);
+  EXPECT_TRUE(fake.ui.fileDialogs.empty());
+  EXPECT_TRUE(Messages().empty());
+}
+
+// A coordinate text wider than its 12 columns (eight integer digits with decimals) ends the
+// export through its error handling: no report, the listings left as they stood, unsorted and
+// without heading.
+TEST_F(ExportCommand, ACoordinateTooWideForItsColumnEndsTheExport) {
+  OpenDataset("tx.dat");
+  Choose("TX SC 4204", true, false);
+  RunExport(Out("export.txt"));
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_EQ(FileLength(Out("export.hcl")), 0u);
+  // The scaled mark before it was written: its line, broken at the elevation, as printed.
+  const std::vector<std::string> sorted = SplitCrLf(ListingFixture("tx_break.vcl"));
+  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), sorted[3] + "\r\n" + sorted[2] + "\r\n");
+  EXPECT_FALSE(fake.progress.Visible());
+}
+
+// A Description without a position is projected from latitude and longitude 0: some 10,000 km
+// east of the zone, eight digits that the whole-number pattern cannot hold in 12 columns.
+TEST_F(ExportCommand, ADescriptionWithoutPositionIsProjectedFromZero) {
+  OpenDataset("nopos.dat");
+  RunExport(Out("export.txt"));
+  EXPECT_FALSE(Completed());
+  EXPECT_EQ(FileLength(Out("export.vcl")), 0u);
+}
+
+// With a zone whose projection kind is none of "LC", "TM", "OM" (or a zone not in the table)
+// nothing is projected: every mark keeps the north and east of the mark before, here 0, and a
+// vertical line without plane coordinates loses its elevation too.
+TEST_F(ExportCommand, AZoneOfNoKnownKindProjectsNothing) {
+  TempFolder support;
+  for (const char* name : {"Contrib.dat", "Monument_Category.dat"})
+    support.Write(name, ReadWholeFile(fake.platform.paths.supportPath + name));
+  std::string zones = ReadWholeFile(fake.platform.paths.supportPath + "Zones.txt");
+  std::string odd = SplitCrLf(zones)[0];  // a zone line with its kind made "ZZ"
+  odd.replace(0, 10, "XX    9999").replace(224, 2, "ZZ");
+  support.Write("Zones.txt", zones + odd + "\r\n");
+  fake.platform.paths.supportPath = support.Path() + "/";
+
+  const std::vector<std::string> hcl = SplitCrLf(ListingFixture("nc_meters.hcl"));
+  const std::vector<std::string> vcl = SplitCrLf(ListingFixture("nc_meters.vcl"));
+  for (const char* zone : {"XX    9999", "QQ    0000"}) {
+    Choose(zone, false, false);
+    RunExport(Out("export.txt"));
+    EXPECT_TRUE(Completed()) << zone;
+    const std::vector<std::string> gotH = SplitCrLf(ReadWholeFile(Out("export.hcl")));
+    const std::vector<std::string> gotV = SplitCrLf(ReadWholeFile(Out("export.vcl")));
+    ASSERT_EQ(gotH.size(), hcl.size());
+    ASSERT_EQ(gotV.size(), vcl.size());
+    for (std::size_t i = 2; i + 1 < hcl.size(); ++i) {
+      std::string expected = hcl[i];
+      expected.replace(90, 24, "0.000       0.000       ");
+      EXPECT_EQ(gotH[i], expected) << zone;
+    }
+    for (std::size_t i = 2; i + 1 < vcl.size(); ++i) {
+      std::string expected = vcl[i];
+      expected.replace(80, 38, std::string(38, ' '));
+      EXPECT_EQ(gotV[i], expected) << zone;
+    }
+  }
+}
+
+// Each listing command shows its file at font size 8 and goes back to 10; a missing file has
+// its own message.
+TEST_F(ExportCommand, ViewsTheListingsAtTheirPitch) {
+  struct Case {
+    void (*command)(Session&, Platform&);
+    std::string Session::*path;
+    const char* captionHead;
+    const char* fileType;
+    const char* missing;
+  };
+  for (const Case c : {Case{mnuViewHcl, &Session::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
+                       Case{mnuViewVcl, &Session::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
+    fake.ui.messages.clear();
+    session.*c.path = Out("missing.lst");
+    c.command(session, fake.platform);
+    EXPECT_EQ(Messages(), std::vector<std::string>{c.missing});
+
+    session.*c.path = folder.Write("shown.lst", "LISTING\r\n");
+    int fontDuringShow = 0;
+    fake.ui.modalActions.push_back([&fontDuringShow](DialogModel& m) { fontDuringShow = dynamic_cast<frmView&>(m).FontSize; });
+    c.command(session, fake.platform);
+    const frmView& view = session.forms.Get<frmView>();
+    EXPECT_EQ(fontDuringShow, 8);
+    EXPECT_EQ(view.FontSize, 10);
+    EXPECT_EQ(view.txtViewFile, "LISTING\r\n");
+    EXPECT_EQ(view.Caption, c.captionHead + Out("shown.lst"));
+    EXPECT_EQ(view.Tag, "View listing");
+    EXPECT_EQ(view.strFileType, c.fileType);
+  }
+}
+
+TEST(ExportCommands, AreOnTheMenu) {
+  const CommandTable table = BuildCommandTable();
+  for (const char* name : {"mnuExport", "mnuViewHcl", "mnuViewVcl"}) EXPECT_TRUE(table.Has(name)) << name;
+}
+
+}  // namespace
+}  // namespace benchlog::testing
