@@ -2,6 +2,7 @@
 
 #include "app/ui/about_windows.hpp"
 #include "dataset/ui/frm_get_file_window.hpp"
+#include "export/ui/export_dialogs.hpp"
 #include "view/ui/view_dialogs.hpp"
 
 namespace benchlog::qt {
@@ -10,6 +11,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterAppDialogs(platform);
   RegisterViewDialogs();
   RegisterDatasetDialogs();
+  RegisterExportDialogs();
 }
 
 }  // namespace benchlog::qt
