@@ -1,5 +1,6 @@
 #include "export/export_commands.hpp"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "dataset/description_file.hpp"
 #include "export/export_files.hpp"
 #include "export/export_forms.hpp"
+#include "export/mapped_text.hpp"
 #include "view/frm_select_points.hpp"
 #include "view/frm_view.hpp"
 
@@ -60,12 +62,15 @@ void RunExportCommand(Session& session, Platform& platform) {
   if (options.Tag == "Canceled") return;
   platform.ui.DoEvents();
 
-  std::string text;
+  // All marks: the dataset read whole, in place. Chosen marks: their Descriptions one after another.
+  std::unique_ptr<MappedText> dataset;
+  std::string chosen;
   if (!options.optSelectedSta) {
-    text = ReadWholeFile(session.DatFile);
-  } else if (!SelectedDescriptions(session, platform, text)) {
+    dataset = std::make_unique<MappedText>(session.DatFile);
+  } else if (!SelectedDescriptions(session, platform, chosen)) {
     return;
   }
+  const std::string_view text = dataset ? dataset->Text() : std::string_view(chosen);
   if (options.chkDB == 1) {
     frmCDT& cdt = CdtForm(session, platform);
     platform.ui.ShowModal(cdt);

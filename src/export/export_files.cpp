@@ -6,6 +6,7 @@
 #include "common/format.hpp"
 #include "common/paths.hpp"
 #include "common/text.hpp"
+#include "dataset/picture_folder.hpp"
 #include "export/export_forms.hpp"
 #include "export/export_names.hpp"
 #include "export/export_output.hpp"
@@ -65,7 +66,7 @@ void ShowProgress(Progress& progress) {
   progress.Show();
 }
 
-void RunExport(Session& session, Platform& platform, const std::string& strMkData, const std::string& OutFileName,
+void RunExport(Session& session, Platform& platform, std::string_view strMkData, const std::string& OutFileName,
                std::string& ErrMsg) {
   const frmOutputOptions& options = OutputOptionsForm(session, platform);
   const frmCDT& cdt = CdtForm(session, platform);
@@ -88,30 +89,31 @@ void RunExport(Session& session, Platform& platform, const std::string& strMkDat
     return;
   }
 
-  const std::vector<std::string_view> lines = SplitCrLfViews(strMkData);
   std::vector<std::size_t> starts;
   std::vector<std::string> pids;
   std::size_t count = 0;
-  FindDescriptions(lines, starts, pids, count);
+  FindDescriptions(strMkData, starts, pids, count);
   progress.min = 0;
   progress.max = static_cast<int>(count);
   const std::size_t refreshEvery = count / kProgressSteps + 1;
 
+  const PictureFolder pictures(setup.datasetFolder);
   auto record = std::make_unique<MarkRecord>();
   MarkValues values;
+  std::vector<std::string_view> lines;
   for (std::size_t i = 1; i <= count; ++i) {
     progress.value = static_cast<int>(i);
     if (i % refreshEvery == 0 || i == count) progress.Refresh();
     ClearMarkRecord(*record);
     std::string parseError;  // every Description found has at least its first line
-    ParseDescription(pids[i - 1], lines, starts[i - 1], ParseGroups{}, parseError, *record,
-                     platform.paths.supportPath);
+    DescriptionLines(strMkData, starts[i - 1], pids[i - 1], lines);
+    ParseDescription(pids[i - 1], lines, 0, ParseGroups{}, parseError, *record, platform.paths.supportPath);
     record->Serial = Format(static_cast<double>(i), "0000");
     values.horizontal = HasHorizontalControl(*record);
     values.vertical = HasVerticalControl(*record);
     ComputePlaneValues(setup, *record, values);
     ComputeUtmValues(setup, *record, values);
-    ComputePictureFlags(setup, *record, values);
+    ComputePictureFlags(pictures, *record, values);
     for (auto& output : outputs) output->WriteMark(*record, pids[i - 1], values);
   }
 
@@ -123,7 +125,7 @@ void RunExport(Session& session, Platform& platform, const std::string& strMkDat
 
 }  // namespace
 
-void ExportFiles(Session& session, Platform& platform, const std::string& strMkData, const std::string& OutFileName,
+void ExportFiles(Session& session, Platform& platform, std::string_view strMkData, const std::string& OutFileName,
                  std::string& ErrMsg) {
   ErrMsg.clear();
   try {

@@ -2,6 +2,7 @@
 // ExportFiles: the export's one pass over a text of Descriptions into the outputs ticked in
 // frmOutputOptions (read as the dialogs stand when it runs).
 #include <string>
+#include <string_view>
 
 #include "app/session.hpp"
 #include "platform/platform.hpp"
@@ -18,7 +19,7 @@ namespace benchlog {
 // the dialog is hidden and "Processing complete!" is shown in a box titled "Create File(s)".
 // `ErrMsg` is emptied on entry. A run-time failure (a coordinate text too wide for its column,
 // a file that cannot be written) ends the export without a report; what was written stays.
-void ExportFiles(Session& session, Platform& platform, const std::string& strMkData, const std::string& OutFileName,
+void ExportFiles(Session& session, Platform& platform, std::string_view strMkData, const std::string& OutFileName,
                  std::string& ErrMsg);
 
 }  // namespace benchlog

@@ -1,12 +1,10 @@
 #include "export/mark_values.hpp"
 
-#include "common/files.hpp"
 #include "common/format.hpp"
 #include "common/number_text.hpp"
 #include "common/rounding.hpp"
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
-#include "dataset/dataset_paths.hpp"
 #include "geodesy/angle_text.hpp"
 #include "geodesy/angles.hpp"
 #include "geodesy/ellipsoid.hpp"
@@ -93,9 +91,10 @@ void ComputeUtmValues(const ExportSetup& setup, const MarkRecord& record, MarkVa
   v.UtmEastText = Format(v.UtmEast, pattern);
 }
 
-void ComputePictureFlags(const ExportSetup& setup, const MarkRecord& record, MarkValues& v) {
-  v.PhotoFlag = FileExists(PhotoPathFor(setup.datasetFolder, record.Pid.View())) ? "Y" : " ";
-  v.SketchFlag = FileExists(SketchPathFor(setup.datasetFolder, record.Pid.View())) ? "Y" : " ";
+void ComputePictureFlags(const PictureFolder& pictures, const MarkRecord& record, MarkValues& v) {
+  const std::string pid(record.Pid.View());
+  v.PhotoFlag = pictures.Has(pid + "ph.jpg") ? "Y" : " ";
+  v.SketchFlag = pictures.Has(pid + "sk.jpg") ? "Y" : " ";
 }
 
 }  // namespace benchlog

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <string>
 
+#include "dataset/picture_folder.hpp"
 #include "export/mark_record.hpp"
 
 namespace benchlog {
@@ -57,8 +58,9 @@ void ComputePlaneValues(const ExportSetup& setup, const MarkRecord& record, Mark
 // beyond the 16-bit range.
 void ComputeUtmValues(const ExportSetup& setup, const MarkRecord& record, MarkValues& values);
 
-// "Y" when the dataset's folder holds "<PID>ph.jpg" (photo) or "<PID>sk.jpg" (sketch), else " ".
-void ComputePictureFlags(const ExportSetup& setup, const MarkRecord& record, MarkValues& values);
+// "Y" when the dataset's folder (`pictures`, listed once per export) holds "<PID>ph.jpg"
+// (photo) or "<PID>sk.jpg" (sketch), else " ".
+void ComputePictureFlags(const PictureFolder& pictures, const MarkRecord& record, MarkValues& values);
 
 // A coordinate text filled with blanks on the right to 12 characters; throws "Invalid procedure
 // call" when it is longer.

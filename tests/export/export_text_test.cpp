@@ -12,47 +12,60 @@ TEST(FindDescriptions, EveryLineStartingWithOneOpensADescription) {
   const std::string text =
       "1      first header\r\n AB1234  DESIGNATION\r\n AB1234  PID\r\n12 also a header\r\n CD5678 x\r\n"
       "1\r\n\r\n";
-  const std::vector<std::string_view> lines = SplitCrLfViews(text);
   std::vector<std::size_t> starts{99};
   std::vector<std::string> pids{"KEPT"};
   std::size_t count = 1;
-  FindDescriptions(lines, starts, pids, count);
+  FindDescriptions(text, starts, pids, count);
   EXPECT_EQ(count, 4u);
-  EXPECT_EQ(starts, (std::vector<std::size_t>{99, 1, 4, 6}));
+  // Byte offsets of the lines after the headers: " AB1234  DESIGNATION", " CD5678 x", "".
+  EXPECT_EQ(starts, (std::vector<std::size_t>{99, 21, 75, 89}));
   // The PID is columns 2 to 7 of the next line, whatever it holds.
   EXPECT_EQ(pids, (std::vector<std::string>{"KEPT", "AB1234", "CD5678", ""}));
 }
 
 TEST(FindDescriptions, TextWithoutHeadersHasNone) {
-  const std::vector<std::string_view> lines = SplitCrLfViews(" AB1234  DESIGNATION\r\n\r\n");
   std::vector<std::size_t> starts;
   std::vector<std::string> pids;
   std::size_t count = 0;
-  FindDescriptions(lines, starts, pids, count);
+  FindDescriptions(" AB1234  DESIGNATION\r\n\r\n", starts, pids, count);
   EXPECT_EQ(count, 0u);
   EXPECT_TRUE(starts.empty() && pids.empty());
 }
 
 TEST(FindDescriptions, AHeaderAsTheVeryLastLineFailsOnTheBound) {
-  const std::vector<std::string_view> lines = SplitCrLfViews("1      header\r\n AB1234 x\r\n1      last");
   std::vector<std::size_t> starts;
   std::vector<std::string> pids;
   std::size_t count = 0;
   try {
-    FindDescriptions(lines, starts, pids, count);
+    FindDescriptions("1      header\r\n AB1234 x\r\n1      last", starts, pids, count);
     FAIL();
   } catch (const RuntimeFailure& failure) {
     EXPECT_EQ(failure.number, kSubscriptOutOfRange);
   }
 }
 
-TEST(SplitCrLfViews, KeepsLoneLineFeedsAndTheEmptyEnd) {
-  struct Case {
-    std::string text;
-    std::vector<std::string_view> lines;
-  };
-  for (const Case& c : {Case{"", {""}}, Case{"a\r\nb\r\n", {"a", "b", ""}}, Case{"a\nb\r\r\nc", {"a\nb\r", "c"}}})
-    EXPECT_EQ(SplitCrLfViews(c.text), c.lines) << c.text;
+// Lines end only at CR LF: a lone CR or LF stays inside its line, and a final CR LF leaves an
+// empty last line.
+TEST(FindDescriptions, LinesEndAtCrLf) {
+  const std::string text = "a\nb\r\r\nc\r\n";
+  std::vector<std::string_view> lines;
+  std::size_t offset = 0;
+  while (offset != std::string_view::npos) lines.push_back(LineAt(text, offset, offset));
+  EXPECT_EQ(lines, (std::vector<std::string_view>{"a\nb\r", "c", ""}));
+  std::size_t next = 0;
+  EXPECT_EQ(LineAt("", 0, next), "");
+  EXPECT_EQ(next, std::string_view::npos);
+}
+
+// The parser reads a Description's run of lines of its PID and the one line after it.
+TEST(FindDescriptions, DescriptionLinesAreTheRunOfItsPid) {
+  const std::string text =
+      "1      h\r\n AB1234 one\r\n AB1234 two\r\n CD5678 other\r\n AB1234 later\r\n1      h\r\n AB1234";
+  std::vector<std::string_view> lines{"stale"};
+  DescriptionLines(text, 10, "AB1234", lines);
+  EXPECT_EQ(lines, (std::vector<std::string_view>{" AB1234 one", " AB1234 two", " CD5678 other"}));
+  DescriptionLines(text, text.size() - 7, "AB1234", lines);
+  EXPECT_EQ(lines, (std::vector<std::string_view>{" AB1234"}));
 }
 
 TEST(ExportNames, FromTheChosenNameWithoutItsExtension) {

@@ -235,8 +235,7 @@ TEST_F(MarkValuesTest, PictureFlagsFromTheDatasetFolder) {
   TempFolder folder;
   folder.Write("DH7190ph.jpg", "");
   folder.Write("FY3188sk.jpg", "");
-  ExportSetup setup;
-  setup.datasetFolder = folder.Path() + "/";
+  const PictureFolder pictures(folder.Path() + "/");
   struct Case {
     const char *pid, *photo, *sketch;
   };
@@ -244,7 +243,7 @@ TEST_F(MarkValuesTest, PictureFlagsFromTheDatasetFolder) {
     MarkRecord record;
     record.Pid = c.pid;
     MarkValues values;
-    ComputePictureFlags(setup, record, values);
+    ComputePictureFlags(pictures, record, values);
     EXPECT_EQ(values.PhotoFlag, c.photo) << c.pid;
     EXPECT_EQ(values.SketchFlag, c.sketch) << c.pid;
   }

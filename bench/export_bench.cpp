@@ -1,0 +1,103 @@
+// export_bench [--mb N] [--dir FOLDER]: times the Export command on every mark of a generated
+// dataset of N megabytes (100 by default) to both listings, beside the index build of the same
+// file measured in the same run. Each figure is the best of three runs, with the file in the page cache. The
+// target: the export takes at most 3 times the index build.
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include "app/session.hpp"
+#include "common/files.hpp"
+#include "dataset/build_mark_index.hpp"
+#include "dataset_generator.hpp"
+#include "export/export_commands.hpp"
+#include "export/export_forms.hpp"
+#include "fakes/fakes.hpp"
+#include "geodesy/ellipsoid.hpp"
+
+namespace benchlog::bench {
+namespace {
+
+double Seconds(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double Best(int runs, const std::function<double()>& run) {
+  double best = 1e300;
+  for (int i = 0; i < runs; ++i) best = std::min(best, run());
+  return best;
+}
+
+// The support files are copied beside the program by the build.
+std::string SupportFolder() { return std::filesystem::canonical("/proc/self/exe").parent_path().string(); }
+
+int Run(std::uint64_t megabytes, const std::string& folder) {
+  std::filesystem::create_directories(folder);
+  const std::string dat = folder + "/bench.dat";
+  const std::string ndx = folder + "/bench.ndx";
+  std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
+  const GeneratedDataset made = GenerateDataset(dat, megabytes * 1000 * 1000);
+  std::printf("%llu bytes, %zu Descriptions\n\n", static_cast<unsigned long long>(made.bytes), made.pids.size());
+  ReadWholeFile(dat);  // into the page cache
+
+  // GRS 80, as the shipped configuration has it.
+  SetCurrentEllipsoid({6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)});
+  testing::FakePlatform fake(SupportFolder());
+  fake.progress.observer = nullptr;
+  Session session;
+  session.DatFile = dat;
+  session.DatFilePath = folder + "/";
+
+  const double build = Best(3, [&] { return Seconds([&] { BuildMarkIndex(dat, ndx, session.markIndex, fake.platform); }); });
+
+  // All marks of the dataset (a Colorado one) to both listings in Colorado Central, grid feet.
+  frmOutputOptions& options = OutputOptionsForm(session, fake.platform);
+  options.SetAllStations(true);
+  options.chkHoriz = options.chkVert = 1;
+  options.cboProjZone = "CO C  0502";
+  options.SetUnits(true, false, false);
+  const std::string out = folder + "/bench.out";
+  // The Export command itself, the user answering Okay and the output name.
+  const double exported = Best(3, [&] {
+    fake.ui.messages.clear();
+    fake.ui.modalActions.push_back([](DialogModel& model) { dynamic_cast<frmOutputOptions&>(model).cmdOkay_Click(); });
+    fake.ui.fileAnswers.push_back(out);
+    const double seconds = Seconds([&] { mnuExport(session, fake.platform); });
+    if (fake.ui.MessageTexts() != std::vector<std::string>{"Processing complete!"})
+      throw std::runtime_error("the export did not complete");
+    return seconds;
+  });
+
+  const double ratio = exported / build;
+  std::printf("%-34s %10.3f ms\n", "BuildMarkIndex", build * 1000);
+  std::printf("%-34s %10.3f ms\n", "Export to .hcl and .vcl", exported * 1000);
+  std::printf("%-34s %10.3f x    target <= 3: %s\n", "  ratio to the index build", ratio, ratio <= 3 ? "met" : "NOT MET");
+  std::printf("\nListings: %llu and %llu bytes\n", static_cast<unsigned long long>(FileLength(folder + "/bench.hcl")),
+              static_cast<unsigned long long>(FileLength(folder + "/bench.vcl")));
+  return 0;
+}
+
+}  // namespace
+}  // namespace benchlog::bench
+
+int main(int argc, char** argv) {
+  try {
+    std::uint64_t megabytes = 100;
+    std::string folder = (std::filesystem::temp_directory_path() / "benchlog-bench").string();
+    for (int i = 1; i + 1 < argc; i += 2) {
+      if (std::strcmp(argv[i], "--mb") == 0) megabytes = std::strtoull(argv[i + 1], nullptr, 10);
+      if (std::strcmp(argv[i], "--dir") == 0) folder = argv[i + 1];
+    }
+    return benchlog::bench::Run(megabytes, folder);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "export_bench: %s\n", failure.what());
+    return 1;
+  }
+}
