@@ -3,12 +3,14 @@
 #include <chrono>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include "common/files.hpp"
 #include "common/runtime_failure.hpp"
 #include "export/export_test_support.hpp"
 #include "export/monument_category.hpp"
 #include "export/note_header.hpp"
+#include "export/support_file_cache.hpp"
 #include "fakes/temp_folder.hpp"
 
 namespace benchlog {
@@ -38,8 +40,9 @@ TEST(MonumentCategory, MissingFileFails) {
   }
 }
 
-// The file is read anew for each marker line: an edited table takes effect at the next line,
-// also when the edit keeps the file's size.
+// The file is read anew for each marker line: an edited table takes effect for the lines read
+// once the stamp is asked again (kStampRecheck after the last asking), also when the edit keeps
+// the file's size.
 TEST(MonumentCategory, EditedFileIsReadAnewByTheParser) {
   TempFolder folder;
   const std::string support = folder.Path() + "/";
@@ -47,6 +50,7 @@ TEST(MonumentCategory, EditedFileIsReadAnewByTheParser) {
   folder.Write("Contrib.dat", "OCO    FED    ORBIS CONTROL OFFICE\r\n");
   const std::vector<std::string> lines = {DataLine("AB1234", {{8, "_MARKER: DB = DISK"}})};
   auto categoryNow = [&] {
+    std::this_thread::sleep_for(kStampRecheck + std::chrono::milliseconds(1));
     MarkRecord record;
     std::string ErrMsg;
     ParseDescription("AB1234", lines, 0, {}, ErrMsg, record, support);
