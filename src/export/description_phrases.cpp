@@ -174,11 +174,11 @@ void DescriptionParser::ReadTextLine(std::string_view line) {
   const std::string_view body = Cols(line, 9, 72);
   if (IsBlankText(body)) {
     text_ += kParagraphBreak;
-  } else if (TrimmedView(Cols(line, 9, 12)) == "DESCRIBED BY") {
+  } else if (Cols(line, 9, 12) == "DESCRIBED BY") {  // as wide as its columns: trimmed, the same test
     text_ += body;
     text_ += kCrLf;
     ReadNoteHeader(body, false);
-  } else if (TrimmedView(Cols(line, 9, 16)) == "RECOVERY NOTE BY") {
+  } else if (Cols(line, 9, 16) == "RECOVERY NOTE BY") {
     text_ += body;
     text_ += kCrLf;
     ReadNoteHeader(body, true);
