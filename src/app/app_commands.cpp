@@ -7,8 +7,10 @@
 #include "app/frm_about.hpp"
 #include "app/menu_tree.hpp"
 #include "app/recent_files.hpp"
+#include "common/files.hpp"
 #include "common/paths.hpp"
 #include "dataset/load_dataset_index.hpp"
+#include "view/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -54,6 +56,21 @@ void mnuFileMRUItem_Click(Session& session, Platform& platform, int n) {
   OpenDataset(session, platform, session.MRUList[static_cast<std::size_t>(n - 1)]);
 }
 
+void mnuOpenCounty(Session& session, Platform& platform) {
+  FileDialogRequest request;
+  request.filter = "County Files (County.*)|County.*";
+  request.title = "Open County File";
+  request.fileName = platform.settings.GetSetting("Settings", "LastCountyFullName", "");
+  request.initDir = platform.settings.GetSetting("Settings", "LastCountyDirectory", DefaultFolder());
+  session.CtyFile = platform.ui.FileDialog(request);
+  frmView& view = ViewForm(session, platform);
+  view.txtViewFile = ReadWholeFile(session.CtyFile);
+  view.Caption = "County File - " + session.CtyFile;
+  platform.ui.ShowModeless(view);
+  platform.settings.SaveSetting("Settings", "LastCountyFullName", session.CtyFile);
+  platform.settings.SaveSetting("Settings", "LastCountyDirectory", FolderOf(session.CtyFile));
+}
+
 void mnuSetBackColor(Session& session, Platform& platform) {
   ChooseColor(platform, "Select Background Color", "BackColor", session.backColor);
 }
@@ -76,6 +93,7 @@ void mnuExit(Session& session, Platform&) { session.quitRequested = true; }
 
 void RegisterAppCommands(CommandTable& table) {
   table.Register("mnuOpenDat", mnuOpenDat);
+  table.Register("mnuOpenCounty", mnuOpenCounty);
   for (int n = 1; n <= kMaxRecentFiles; ++n)
     table.Register(MruItemName(n), [n](Session& s, Platform& p) { mnuFileMRUItem_Click(s, p, n); });
   table.Register("mnuSetBackColor", mnuSetBackColor);

@@ -10,6 +10,8 @@ namespace benchlog {
 void RegisterAppCommands(CommandTable& table);
 
 void mnuOpenDat(Session& session, Platform& platform);
+// Shows a county file in the viewer, without blocking.
+void mnuOpenCounty(Session& session, Platform& platform);
 // Recent-file entry n (1 to 8).
 void mnuFileMRUItem_Click(Session& session, Platform& platform, int n);
 void mnuSetBackColor(Session& session, Platform& platform);

@@ -1,6 +1,8 @@
 #include "app/app_commands.hpp"
 #include "app/command_table.hpp"
 #include "dataset/dataset_commands.hpp"
+#include "dataset/dataset_file_commands.hpp"
+#include "view/view_by_class.hpp"
 
 namespace benchlog {
 
@@ -10,6 +12,8 @@ CommandTable BuildCommandTable() {
   CommandTable table;
   RegisterAppCommands(table);
   RegisterDatasetCommands(table);
+  RegisterDatasetFileCommands(table);
+  RegisterViewCommands(table);
   return table;
 }
 

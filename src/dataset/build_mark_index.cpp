@@ -23,6 +23,7 @@ class IndexBuilder {
   void Run(const std::string& indexPath) {
     markIndex_.Clear();
     LineReader reader(datasetPath_);  // opened first, so a missing dataset leaves the old index file
+    if (IsSameFile(datasetPath_, indexPath)) throw PathFileAccessError();  // never write over the dataset
     LineWriter out(indexPath);
     std::string_view line;
     while (reader.ReadLine(line)) {
@@ -105,6 +106,20 @@ bool BuildMarkIndex(const std::string& datasetPath, const std::string& indexPath
     platform.ui.MsgBox(failure.what(), MsgButtons::Ok, MsgIcon::Critical, "Create Mark Index");
     return false;
   }
+}
+
+void BuildMarkIndexBehindProgress(const std::string& label, const std::string& datasetPath,
+                                  const std::string& indexPath, MarkIndex& markIndex, Platform& platform) {
+  Progress& progress = platform.dlgProcessing;
+  const std::uint64_t length = FileLength(datasetPath);
+  progress.lblProcessing = label;
+  progress.lblInfo = "Please wait...";
+  progress.max = static_cast<int>(length / 5000);
+  progress.value = 1;
+  progress.Show();
+  platform.ui.DoEvents();
+  BuildMarkIndex(datasetPath, indexPath, markIndex, platform);
+  progress.Hide();
 }
 
 void LoadIndexFile(const std::string& indexPath, MarkIndex& markIndex) {

@@ -24,6 +24,13 @@ namespace benchlog {
 bool BuildMarkIndex(const std::string& datasetPath, const std::string& indexPath, MarkIndex& markIndex,
                     Platform& platform);
 
+// The usual way of building behind the progress dialog: its first label becomes `label`, its second
+// "Please wait...", the bar runs from 1 to the dataset's length / 5000; the dialog is shown, pending
+// events run, the index is built and the dialog hidden. Throws RuntimeFailure "File not found"
+// when the dataset is missing (before anything is shown).
+void BuildMarkIndexBehindProgress(const std::string& label, const std::string& datasetPath,
+                                  const std::string& indexPath, MarkIndex& markIndex, Platform& platform);
+
 // Reads the whole ".ndx" file and splits it at CR LF into `markIndex`, replacing what was there.
 // Throws RuntimeFailure "File not found" when the file cannot be read.
 void LoadIndexFile(const std::string& indexPath, MarkIndex& markIndex);

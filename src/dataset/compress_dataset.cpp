@@ -6,6 +6,8 @@
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/paths.hpp"
+#include "common/runtime_failure.hpp"
+#include "dataset/dataset_paths.hpp"
 #include "dataset/dataset_text.hpp"
 #include "dataset/line_writer.hpp"
 
@@ -55,6 +57,7 @@ void CopyKeptLines(LineReader& in, LineWriter& out, Progress& progress) {
 
 std::string CompressDataset(const std::string& datasetPath, Platform& platform) {
   std::string errorText;
+  bool madeWorkFile = false;
   const std::string workFile = JoinPath(platform.paths.appPath, kCompressWorkFile);
   try {
     {
@@ -62,7 +65,9 @@ std::string CompressDataset(const std::string& datasetPath, Platform& platform) 
       LineReader in(datasetPath);
       const std::uint64_t length = FileLength(datasetPath);
       errorText = "Unable to open a file in the product directory for writing.";
+      if (IsSameFile(datasetPath, workFile)) throw PathFileAccessError();  // never write over the dataset
       LineWriter out(workFile);
+      madeWorkFile = true;
       if (length > kBytesPerStep) ShowCompressProgress(length, platform);
       CopyKeptLines(in, out, platform.dlgProcessing);
       out.Close();
@@ -73,7 +78,7 @@ std::string CompressDataset(const std::string& datasetPath, Platform& platform) 
     return "";
   } catch (const std::exception& failure) {
     platform.dlgProcessing.Hide();
-    DeleteFileIfExists(workFile);
+    if (madeWorkFile) DeleteFileIfExists(workFile);
     platform.ui.MsgBox(errorText + "\r\n" + failure.what());
     return errorText;
   }

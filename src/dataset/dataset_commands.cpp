@@ -1,6 +1,5 @@
 #include "dataset/dataset_commands.hpp"
 
-#include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/dataset_paths.hpp"
 
@@ -12,15 +11,7 @@ void mnuReindex(Session& session, Platform& platform) {
     return;
   }
   if (session.IndexFile.empty()) session.IndexFile = IndexPathFor(platform.paths.appPath, session.DatFile);
-  Progress& progress = platform.dlgProcessing;
-  progress.lblProcessing = "Creating Index";
-  progress.lblInfo = "Please wait...";
-  progress.max = static_cast<int>(FileLength(session.DatFile) / 5000);
-  progress.value = 1;
-  progress.Show();
-  platform.ui.DoEvents();
-  BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, platform);
-  progress.Hide();
+  BuildMarkIndexBehindProgress("Creating Index", session.DatFile, session.IndexFile, session.markIndex, platform);
   platform.ui.MsgBox("Index file created.");
 }
 

@@ -1,5 +1,7 @@
 #include "dataset/dataset_paths.hpp"
 
+#include <filesystem>
+
 #include "app/session.hpp"
 #include "common/paths.hpp"
 
@@ -15,6 +17,11 @@ std::string PhotoPathFor(std::string_view folder, std::string_view pid) {
 
 std::string SketchPathFor(std::string_view folder, std::string_view pid) {
   return std::string(folder).append(pid).append("sk.jpg");
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+  std::error_code error;
+  return std::filesystem::equivalent(a, b, error) && !error;
 }
 
 void SetDerivedPaths(Session& session, std::string_view appPath) {

@@ -17,6 +17,9 @@ std::string IndexPathFor(std::string_view appPath, std::string_view datasetPath)
 std::string PhotoPathFor(std::string_view folder, std::string_view pid);
 std::string SketchPathFor(std::string_view folder, std::string_view pid);
 
+// True when both paths name one existing file (through links and different spellings).
+bool IsSameFile(const std::string& a, const std::string& b);
+
 // Sets ErrFile, HclFile, VclFile, MsfFile, SA6File and IndexFile from session.DatFile.
 void SetDerivedPaths(Session& session, std::string_view appPath);
 

@@ -17,18 +17,6 @@ bool IndexIsStale(const MarkIndex& markIndex, std::uint64_t datasetLength) {
   return RecordOffset(markIndex[markIndex.Size() - 2]) != datasetLength;
 }
 
-void RebuildBehindProgress(Session& session, Platform& platform) {
-  Progress& progress = platform.dlgProcessing;
-  progress.lblProcessing = "Creating index...";
-  progress.lblInfo = "Please wait...";
-  progress.max = static_cast<int>(FileLength(session.DatFile) / 5000);
-  progress.value = 1;
-  progress.Show();
-  platform.ui.DoEvents();
-  BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, platform);
-  progress.Hide();
-}
-
 void EnableListingCommands(Session& session) {
   session.menu["mnuViewHcl"].enabled = FileExists(session.HclFile);
   session.menu["mnuViewVcl"].enabled = FileExists(session.VclFile);
@@ -52,7 +40,8 @@ bool LoadDatasetIndex(Session& session, Platform& platform) {
     } else if (!FileExists(session.DatFile)) {
       return false;
     } else {
-      RebuildBehindProgress(session, platform);
+      BuildMarkIndexBehindProgress("Creating index...", session.DatFile, session.IndexFile, session.markIndex,
+                                   platform);
       platform.ui.MsgBox("Index file created.");
       madeNew = true;
     }

@@ -132,6 +132,17 @@ TEST(BuildMarkIndex, FailureIsShownAndTheOldIndexStays) {
   EXPECT_TRUE(index.Empty());  // cleared before the scan began
 }
 
+// A dataset with the index's own name in the program's folder is never written over.
+TEST(BuildMarkIndex, NeverWritesOverTheDataset) {
+  TempFolder folder;
+  const std::string dat = CopyFixture(folder, "single.dat");
+  FakePlatform fake(folder.Path());
+  MarkIndex index;
+  EXPECT_FALSE(BuildMarkIndex(dat, dat, index, fake.platform));
+  EXPECT_EQ(ReadWholeFile(dat), Fixture("single.dat"));
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Path/File access error"});
+}
+
 TEST(BuildMarkIndex, AnUnwritableIndexIsReported) {
   TempFolder folder;
   const std::string dat = CopyFixture(folder, "single.dat");

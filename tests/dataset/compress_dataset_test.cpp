@@ -111,5 +111,14 @@ TEST(CompressDataset, AnUnwritableWorkFileLeavesTheDatasetWhole) {
   EXPECT_FALSE(fake.progress.Visible());
 }
 
+// A dataset that is itself the work file is left alone.
+TEST(CompressDataset, NeverWritesOverTheDataset) {
+  TempFolder folder;
+  const std::string dat = folder.Write("Temp.dat", " kept  \r\n   \r\n");
+  FakePlatform fake(folder.Path());
+  EXPECT_EQ(CompressDataset(dat, fake.platform), "Unable to open a file in the product directory for writing.");
+  EXPECT_EQ(ReadWholeFile(dat), " kept  \r\n   \r\n");
+}
+
 }  // namespace
 }  // namespace benchlog

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include "app/command_table.hpp"
+#include "common/files.hpp"
+#include "dataset/build_mark_index.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
+#include "view/frm_select_points.hpp"
+#include "view/frm_view.hpp"
+
+namespace benchlog {
+namespace {
+using testing::FakePlatform;
+using testing::TempFolder;
+
+// layouts.dat: AB1234 (CORS, special order), AB1235 (FBN, second/first), AB1236 (its record 22
+// characters short, vertical posted), AB1237 (tidal, CBN, SACS, Ht Mod, third/second).
+struct ViewByClassTest : ::testing::Test {
+  TempFolder folder;
+  FakePlatform fake{folder.Path()};
+  Session session;
+  std::string dat = ReadWholeFile(BENCHLOG_TEST_DATA "/dataset/layouts.dat");
+  CommandTable table = BuildCommandTable();
+
+  ViewByClassTest() {
+    session.DatFile = folder.Write("layouts.dat", dat);
+    session.DatFilePath = folder.Path() + "/";
+    session.IndexFile = folder.File("layouts.ndx");
+  }
+  void LoadIndex() { LoadIndexFile(BENCHLOG_TEST_DATA "/dataset/layouts.ndx", session.markIndex); }
+
+  // Runs a class command; the user sees the list, picks the items at `picks` and presses Okay.
+  std::vector<std::string> Pick(const std::string& command, std::vector<std::size_t> picks) {
+    std::vector<std::string> listed;
+    fake.ui.modalActions.push_back([&, picks](DialogModel& model) {
+      auto& list = dynamic_cast<FrmSelectPoints&>(model);
+      EXPECT_EQ(list.caption, "Select Point(s) to View");
+      EXPECT_EQ(list.Tag, "Canceled");
+      for (const auto& item : list.lstPoints) listed.push_back(FrmSelectPoints::PidOfItem(item));
+      for (auto i : picks) list.selected.at(i) = true;
+      list.cmdOkay_Click();
+    });
+    table.Run(command, session, fake.platform);
+    return listed;
+  }
+  const frmView* Viewer() const {
+    return fake.ui.modals.size() == 2 ? dynamic_cast<const frmView*>(fake.ui.modals[1]) : nullptr;
+  }
+};
+
+TEST_F(ViewByClassTest, ClassesListTheirMarksInIndexOrder) {
+  LoadIndex();
+  struct Case {
+    const char* command;
+    std::vector<std::string> pids;
+  };
+  // The loaded index ends in an empty element, which passes every "not a blank" test. AB1236's
+  // record is 22 characters short, so its column c holds what belongs in c + 22: column 100 the
+  // "0" of its last year 2003 (FBN), 104 its condition "N" (CORS), 106 the "C" of COUNTY (no
+  // GPS "Y") and 108 its "U" (Ht Mod); column 98 is the blank before the last year.
+  const Case cases[] = {
+      {"mnuAllHorizontal", {"AB1234", "AB1235", "AB1237", ""}},
+      {"mnuHorizFirst", {}},
+      {"mnuAllVert", {"AB1235", "AB1236", "AB1237", ""}},
+      {"mnuVertFirst", {"AB1235"}},
+      {"mnuViewCors", {"AB1234", "AB1236", ""}},
+      {"mnuViewFBN", {"AB1235", "AB1236", "AB1237", ""}},
+      {"mnuViewTidal", {"AB1237", ""}},
+      {"mnuViewGPS", {"AB1234"}},
+      {"mnuViewHtMod", {"AB1236", "AB1237", ""}},
+  };
+  for (const auto& c : cases) {
+    fake.ui.modals.clear();
+    EXPECT_EQ(Pick(c.command, {}), c.pids) << c.command;
+    EXPECT_EQ(fake.ui.modals.size(), 1u) << c.command;  // nothing selected: no viewer
+  }
+}
+
+TEST_F(ViewByClassTest, BuiltIndexListsItsEmptyElementBeforeTheLastRecord) {
+  ASSERT_TRUE(BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, fake.platform));
+  EXPECT_EQ(Pick("mnuAllHorizontal", {}), (std::vector<std::string>{"AB1234", "AB1235", "", "AB1237"}));
+}
+
+TEST_F(ViewByClassTest, SelectedDescriptionsReachTheViewerTogether) {
+  LoadIndex();
+  session.backColor = 0x00CCFFFF;  // the main window's background
+  Pick("mnuAllHorizontal", {0, 2});  // AB1234 and AB1237
+  const frmView* view = Viewer();
+  ASSERT_NE(view, nullptr);
+  // AB1234 spans offsets 1 to 2243; AB1237 runs from 3968 to the sentinel's 4924, whose last
+  // byte is not read back.
+  EXPECT_EQ(view->txtViewFile, dat.substr(0, 2242) + dat.substr(3967, 956));
+  EXPECT_EQ(view->Caption, "View Description(s)");
+  EXPECT_EQ(view->Tag, "AB1234");
+  EXPECT_EQ(view->strFileType, "dat");
+  EXPECT_EQ(view->placement.state, kMaximized);
+  EXPECT_EQ(view->BackColor, 0x00CCFFFFu);
+}
+
+TEST_F(ViewByClassTest, AnEmptyLastPidOrCancelEndsWithoutTheViewer) {
+  LoadIndex();
+  Pick("mnuAllHorizontal", {0, 3});  // AB1234 and the empty element
+  EXPECT_EQ(Viewer(), nullptr);
+
+  fake.ui.modals.clear();
+  fake.ui.modalActions.push_back([](DialogModel& model) { dynamic_cast<FrmSelectPoints&>(model).cmdCancel_Click(); });
+  table.Run("mnuAllHorizontal", session, fake.platform);
+  EXPECT_EQ(fake.ui.modals.size(), 1u);
+  EXPECT_TRUE(fake.ui.messages.empty());
+}
+
+TEST_F(ViewByClassTest, NoIndexFailsOnTheArrayBound) {
+  table.Run("mnuAllHorizontal", session, fake.platform);
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Subscript out of range"});
+  EXPECT_TRUE(fake.ui.modals.empty());
+}
+
+TEST_F(ViewByClassTest, MoreThanTenThousandSelectedFail) {
+  std::vector<std::string> elements(10001, std::string(145, ' '));
+  for (auto& e : elements) e.replace(0, 8, "ZZ0001 1");
+  session.markIndex.Assign(elements);
+  fake.ui.modalActions.push_back([](DialogModel& model) {
+    auto& list = dynamic_cast<FrmSelectPoints&>(model);
+    list.selected.assign(list.lstPoints.size(), true);
+    list.cmdOkay_Click();
+  });
+  table.Run("mnuAllHorizontal", session, fake.platform);
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Subscript out of range"});
+}
+
+TEST_F(ViewByClassTest, DescriptionByPid) {
+  LoadIndex();
+  fake.ui.inputAnswers = {"ab1234", "", "ZZ9999"};
+  fake.ui.modalActions.push_back([](DialogModel&) {});
+  table.Run("mnuLocByPid", session, fake.platform);
+  ASSERT_EQ(fake.ui.modals.size(), 1u);
+  const auto* view = dynamic_cast<const frmView*>(fake.ui.modals[0]);
+  EXPECT_EQ(view->Tag, "AB1234");
+  EXPECT_EQ(view->txtViewFile, dat.substr(0, 2242));
+  EXPECT_EQ(view->Caption, "View Description(s)");
+
+  table.Run("mnuLocByPid", session, fake.platform);  // empty answer: nothing
+  table.Run("mnuLocByPid", session, fake.platform);
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"PID not found!"});
+  EXPECT_EQ(fake.ui.modals.size(), 1u);
+}
+
+}  // namespace
+}  // namespace benchlog
