@@ -6,17 +6,51 @@
 #include <string>
 #include <string_view>
 
+#include "common/dates.hpp"
 #include "export/contributors.hpp"
 #include "export/mark_record.hpp"
 #include "export/parse_description.hpp"
 
 namespace benchlog {
 
+// Columns `start` (1 or more) to `start + length - 1` of a line, shorter or empty past its end: the
+// rule of the dataset text, inline here because the parser slices every line of every
+// Description several times.
+inline std::string_view Cols(std::string_view line, std::size_t start, std::size_t length) {
+  const std::size_t from = start - 1;
+  return from < line.size() ? line.substr(from, length) : std::string_view();
+}
+inline std::string_view ColsToEnd(std::string_view line, std::size_t start) {
+  return Cols(line, start, std::string_view::npos);
+}
+// Column `column` (1 or more) of a line, '\0' past its end.
+inline char Col(std::string_view line, std::size_t column) {
+  return column <= line.size() ? line[column - 1] : '\0';
+}
+// True when `word` stands at `column`.
+inline bool WordAt(std::string_view line, std::size_t column, std::string_view word) {
+  return Cols(line, column, word.size()) == word;
+}
+inline bool IsBlankText(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
+
 // `text` without its leading and trailing blanks, as a view into it.
 inline std::string_view TrimmedView(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// A date as yyyymmdd into an eight-character field, the text FormatYyyymmdd gives, put together
+// digit by digit: dates are stored for every Description.
+inline void StoreYyyymmdd(FixedText<8>& field, const Date& date) {
+  char text[8];
+  int year = date.year;
+  for (int i = 3; i >= 0; --i, year /= 10) text[i] = static_cast<char>('0' + year % 10);
+  text[4] = static_cast<char>('0' + date.month / 10);
+  text[5] = static_cast<char>('0' + date.month % 10);
+  text[6] = static_cast<char>('0' + date.day / 10);
+  text[7] = static_cast<char>('0' + date.day % 10);
+  field = std::string_view(text, 8);
 }
 
 inline bool Holds(std::string_view text, std::string_view phrase) {
@@ -80,6 +114,7 @@ class DescriptionParser {
 
   // Phrases, box score and descriptive text (description_phrases.cpp).
   void ReadPhrases(std::string_view line, std::string_view next);
+  void ReadSentencePhrases(std::string_view line, std::string_view next);
   void ReadHorizontalAdjustment(std::string_view line, std::string_view next);
   void ReadVerticalAdjustment(std::string_view line);
   void ReadSpcLabel(std::string_view line);
@@ -97,6 +132,9 @@ class DescriptionParser {
   std::string historyRows_;         // rows of kHistoryRowWidth characters
   std::size_t historyPointer_ = 0;  // 1-based row the last note was compared with; 0 before any
   std::string primaryAzimuthName_;  // from the ":UTM" line
+  std::string scratch_;             // a history row being put together
+  std::string boxRow_;              // the last box score row, stored into the record at the end
+  bool boxRowRead_ = false;
 };
 
 }  // namespace benchlog

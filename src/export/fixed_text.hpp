@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -21,8 +22,15 @@ class FixedText {
   // Stores `value`, cut to the width or padded on the right with blanks.
   FixedText& operator=(std::string_view value) noexcept {
     const std::size_t count = std::min(value.size(), Width);
-    for (std::size_t i = 0; i < count; ++i) chars_[i] = value[i] == '\0' ? ' ' : value[i];
-    std::fill(chars_.begin() + static_cast<std::ptrdiff_t>(count), chars_.end(), ' ');
+    if (count > 0) std::memcpy(chars_.data(), value.data(), count);
+    std::memset(chars_.data() + count, ' ', Width - count);
+    if constexpr (Width <= 64) {
+      for (std::size_t i = 0; i < count; ++i)
+        if (chars_[i] == '\0') chars_[i] = ' ';
+    } else {
+      char* const end = chars_.data() + count;
+      for (char* at = chars_.data(); (at = static_cast<char*>(std::memchr(at, '\0', end - at))) != nullptr;) *at++ = ' ';
+    }
     return *this;
   }
 

@@ -1,6 +1,7 @@
 #include "export/parse_description.hpp"
 
-#include "dataset/dataset_text.hpp"
+#include <cstring>
+
 #include "export/description_parser.hpp"
 
 namespace benchlog {
@@ -17,9 +18,14 @@ void ParseLines(std::string_view pid, std::span<const Line> lines, std::size_t s
 
   DescriptionParser parser(record, groups, supportPath);
   bool matched = false;
+  // Columns 2 to 7 against the PID, compared with a fixed length where the PID has its six
+  // characters: this runs for every line.
+  const bool sixCharacters = pid.size() == 6;
   for (std::size_t i = start; i < lines.size(); ++i) {
     const std::string_view line = lines[i];
-    if (LinePid(line) != pid) {
+    const bool samePid = sixCharacters ? line.size() >= 7 && std::memcmp(line.data() + 1, pid.data(), 6) == 0
+                                       : Cols(line, 2, 6) == pid;
+    if (!samePid) {
       if (matched) break;
       continue;
     }

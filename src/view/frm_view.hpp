@@ -5,6 +5,7 @@
 // the dataset), and it follows the user's clicks from one Description to the next when several
 // are shown in one text. The Qt window only renders this model and forwards the user's acts.
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -30,6 +31,7 @@ class frmView : public DialogModel {
   bool txtViewFileVisible = true;
   std::size_t SelStart = 0;
   int FontSize = 10;
+  std::uint32_t BackColor = 16777215;  // the text box's background, 0x00BBGGRR
   // The image laid over the same area: the picture file on screen, "" when cleared.
   std::string imgPhoto;
   bool imgPhotoVisible = false;

@@ -19,6 +19,7 @@ constexpr std::size_t kMaxViewedPids = 10000;
 void ShowDescriptions(Session& session, Platform& platform, const std::string& text, const std::string& pid) {
   frmView& view = ViewForm(session, platform);
   view.txtViewFile = text;
+  view.BackColor = session.backColor;
   view.Caption = "View Description(s)";
   view.Tag = pid;
   view.placement.state = kMaximized;

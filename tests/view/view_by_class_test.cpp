@@ -83,6 +83,7 @@ TEST_F(ViewByClassTest, BuiltIndexListsItsEmptyElementBeforeTheLastRecord) {
 
 TEST_F(ViewByClassTest, SelectedDescriptionsReachTheViewerTogether) {
   LoadIndex();
+  session.backColor = 0x00CCFFFF;  // the main window's background
   Pick("mnuAllHorizontal", {0, 2});  // AB1234 and AB1237
   const frmView* view = Viewer();
   ASSERT_NE(view, nullptr);
@@ -93,6 +94,7 @@ TEST_F(ViewByClassTest, SelectedDescriptionsReachTheViewerTogether) {
   EXPECT_EQ(view->Tag, "AB1234");
   EXPECT_EQ(view->strFileType, "dat");
   EXPECT_EQ(view->placement.state, kMaximized);
+  EXPECT_EQ(view->BackColor, 0x00CCFFFFu);
 }
 
 TEST_F(ViewByClassTest, AnEmptyLastPidOrCancelEndsWithoutTheViewer) {

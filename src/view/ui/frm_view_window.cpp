@@ -12,6 +12,7 @@
 
 #include "app/session.hpp"
 #include "platform/platform.hpp"
+#include "platform/qt/qt_ui.hpp"
 #include "view/ui/display_text.hpp"
 
 namespace benchlog::qt {
@@ -106,6 +107,9 @@ void FrmViewWindow::LoadFromModel() {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setPointSize(model_.FontSize > 0 ? model_.FontSize : 10);
   txtViewFile_->setFont(font);
+  QPalette colors = txtViewFile_->palette();
+  colors.setColor(QPalette::Base, qt::ColorOfNumber(model_.BackColor));
+  txtViewFile_->setPalette(colors);
   txtViewFile_->setPlainText(ToDisplayText(model_.txtViewFile));
   QTextCursor cursor = txtViewFile_->textCursor();
   cursor.setPosition(DisplayPosition(model_.txtViewFile, model_.SelStart));

@@ -1,0 +1,78 @@
+// delete_bench [--mb N] [--dir FOLDER]: times Delete Descriptions of 1,000 marks spread over a
+// generated dataset of N megabytes (100 by default): the blanking, the compression and the index
+// build that the command runs, as the user sees it from "Yes" to the closing message.
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+#include "app/command_table.hpp"
+#include "common/files.hpp"
+#include "dataset/build_mark_index.hpp"
+#include "dataset/dataset_paths.hpp"
+#include "dataset_generator.hpp"
+#include "fakes/fakes.hpp"
+#include "view/frm_select_points.hpp"
+
+namespace benchlog::bench {
+namespace {
+
+constexpr std::size_t kDeleted = 1000;
+
+int Run(std::uint64_t megabytes, const std::string& folder) {
+  std::filesystem::create_directories(folder);
+  const std::string source = folder + "/delete_source.dat";
+  if (!FileExists(source) || FileLength(source) < megabytes * 1000000) GenerateDataset(source, megabytes * 1000000);
+
+  testing::FakePlatform fake(folder);
+  fake.progress.observer = nullptr;
+  Session session;
+  session.DatFile = folder + "/delete_work.dat";
+  std::filesystem::copy_file(source, session.DatFile, std::filesystem::copy_options::overwrite_existing);
+  SetDerivedPaths(session, folder);
+  if (!BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, fake.platform))
+    throw std::runtime_error("index build failed");
+
+  std::size_t descriptions = 0;
+  fake.ui.modalActions.push_back([&](DialogModel& model) {
+    auto& list = dynamic_cast<FrmSelectPoints&>(model);
+    descriptions = list.lstPoints.size();
+    const std::size_t step = descriptions / kDeleted;
+    for (std::size_t k = 0; k < kDeleted; ++k) list.selected[k * step] = true;
+    list.cmdOkay_Click();
+  });
+  fake.ui.msgAnswers.push_back(MsgResult::Yes);
+  const CommandTable table = BuildCommandTable();
+
+  const auto start = std::chrono::steady_clock::now();
+  table.Run("mnuDelDesc", session, fake.platform);
+  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+
+  const std::string message = fake.ui.messages.empty() ? "" : fake.ui.messages.back().text;
+  std::printf("dataset %.1f MB, %zu list items\n", static_cast<double>(FileLength(source)) / 1e6, descriptions);
+  std::printf("Delete Descriptions of %zu marks: %.2f s (target under 10 s) %s\n", kDeleted, seconds,
+              seconds < 10 ? "met" : "MISSED");
+  std::printf("closing message: %s\n", message.c_str());
+  return message == "1000 description(s) deleted!" && seconds < 10 ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace benchlog::bench
+
+int main(int argc, char** argv) {
+  std::uint64_t megabytes = 100;
+  std::string folder = (std::filesystem::temp_directory_path() / "benchlog-bench").string();
+  for (int i = 1; i + 1 < argc; i += 2) {
+    const std::string option = argv[i];
+    if (option == "--mb") megabytes = std::strtoull(argv[i + 1], nullptr, 10);
+    else if (option == "--dir") folder = argv[i + 1];
+  }
+  try {
+    return benchlog::bench::Run(megabytes, folder);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "delete_bench: %s\n", failure.what());
+    return 2;
+  }
+}
