@@ -23,6 +23,7 @@
 #include "dataset/compress_dataset.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/load_dataset_index.hpp"
+#include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "fakes/fakes.hpp"
 
@@ -40,18 +41,6 @@ struct QuietPlatform {
     if (!fake.ui.messages.empty()) throw std::runtime_error(std::string(what) + ": " + fake.ui.messages.front().text);
   }
 };
-
-double Seconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Best(int runs, const std::function<double()>& run) {
-  double best = 1e300;
-  for (int i = 0; i < runs; ++i) best = std::min(best, run());
-  return best;
-}
 
 std::string Quoted(const std::string& path) { return "'" + path + "'"; }
 

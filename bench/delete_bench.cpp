@@ -1,7 +1,6 @@
 // delete_bench [--mb N] [--dir FOLDER]: times Delete Descriptions of 1,000 marks spread over a
 // generated dataset of N megabytes (100 by default): the blanking, the compression and the index
 // build that the command runs, as the user sees it from "Yes" to the closing message.
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -12,6 +11,7 @@
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/dataset_paths.hpp"
+#include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "fakes/fakes.hpp"
 #include "view/frm_select_points.hpp"
@@ -46,9 +46,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   fake.ui.msgAnswers.push_back(MsgResult::Yes);
   const CommandTable table = BuildCommandTable();
 
-  const auto start = std::chrono::steady_clock::now();
-  table.Run("mnuDelDesc", session, fake.platform);
-  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  const double seconds = Seconds([&] { table.Run("mnuDelDesc", session, fake.platform); });
 
   const std::string message = fake.ui.messages.empty() ? "" : fake.ui.messages.back().text;
   std::printf("dataset %.1f MB, %zu list items\n", static_cast<double>(FileLength(source)) / 1e6, descriptions);

@@ -22,6 +22,7 @@
 
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "export/mark_record.hpp"
 #include "export/parse_description.hpp"
@@ -31,18 +32,6 @@ namespace benchlog::bench {
 namespace {
 
 constexpr std::size_t kBlockBytes = 1 << 20;  // as the index build's line reader
-
-double Seconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Best(int runs, const std::function<double()>& run) {
-  double best = 1e300;
-  for (int i = 0; i < runs; ++i) best = std::min(best, run());
-  return best;
-}
 
 // The text cut at every CR LF into `lines` (emptied first), as views into it.
 void SplitLines(std::string_view text, std::vector<std::string_view>& lines) {

@@ -1,0 +1,21 @@
+#pragma once
+// Timing for the benchmarks: wall-clock seconds of a piece of work, and the best of a few runs.
+#include <algorithm>
+#include <chrono>
+#include <functional>
+
+namespace benchlog::bench {
+
+inline double Seconds(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double Best(int runs, const std::function<double()>& run) {
+  double best = 1e300;
+  for (int i = 0; i < runs; ++i) best = std::min(best, run());
+  return best;
+}
+
+}  // namespace benchlog::bench
