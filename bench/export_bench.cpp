@@ -2,18 +2,17 @@
 // dataset of N megabytes (100 by default) to both listings, beside the index build of the same
 // file measured in the same run. Each figure is the best of three runs, with the file in the page cache. The
 // target: the export takes at most 3 times the index build.
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <functional>
 #include <stdexcept>
 #include <string>
 
 #include "app/session.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "export/export_commands.hpp"
 #include "export/export_forms.hpp"
@@ -22,18 +21,6 @@
 
 namespace benchlog::bench {
 namespace {
-
-double Seconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Best(int runs, const std::function<double()>& run) {
-  double best = 1e300;
-  for (int i = 0; i < runs; ++i) best = std::min(best, run());
-  return best;
-}
 
 // The support files are copied beside the program by the build.
 std::string SupportFolder() { return std::filesystem::canonical("/proc/self/exe").parent_path().string(); }

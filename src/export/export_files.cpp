@@ -98,23 +98,24 @@ void RunExport(Session& session, Platform& platform, std::string_view strMkData,
   const std::size_t refreshEvery = count / kProgressSteps + 1;
 
   const PictureFolder pictures(setup.datasetFolder);
-  auto record = std::make_unique<MarkRecord>();
-  MarkValues values;
+  auto parsed = std::make_unique<MarkRecord>();
   std::vector<std::string_view> lines;
+  MarkValues values;
   for (std::size_t i = 1; i <= count; ++i) {
     progress.value = static_cast<int>(i);
     if (i % refreshEvery == 0 || i == count) progress.Refresh();
-    ClearMarkRecord(*record);
-    std::string parseError;  // every Description found has at least its first line
+    MarkRecord& record = *parsed;
+    ClearMarkRecord(record);
     DescriptionLines(strMkData, starts[i - 1], pids[i - 1], lines);
-    ParseDescription(pids[i - 1], lines, 0, ParseGroups{}, parseError, *record, platform.paths.supportPath);
-    record->Serial = Format(static_cast<double>(i), "0000");
-    values.horizontal = HasHorizontalControl(*record);
-    values.vertical = HasVerticalControl(*record);
-    ComputePlaneValues(setup, *record, values);
-    ComputeUtmValues(setup, *record, values);
-    ComputePictureFlags(pictures, *record, values);
-    for (auto& output : outputs) output->WriteMark(*record, pids[i - 1], values);
+    std::string parseError;  // every Description found has at least its first line
+    ParseDescription(pids[i - 1], lines, 0, ParseGroups{}, parseError, record, platform.paths.supportPath);
+    record.Serial = Format(static_cast<double>(i), "0000");
+    values.horizontal = HasHorizontalControl(record);
+    values.vertical = HasVerticalControl(record);
+    ComputePlaneValues(setup, record, values);
+    ComputeUtmValues(setup, record, values);
+    ComputePictureFlags(pictures, record, values);
+    for (auto& output : outputs) output->WriteMark(record, pids[i - 1], values);
   }
 
   for (auto& output : outputs) output->Finish();
