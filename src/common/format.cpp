@@ -1,8 +1,10 @@
 #include "common/format.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "common/runtime_failure.hpp"
@@ -12,137 +14,166 @@ namespace {
 
 bool IsPlaceholder(char c) { return c == '0' || c == '#'; }
 
-// The magnitude's decimal digits rounded half away from zero to `decimals` places, from its
-// 15-significant-digit form: integer digits without leading zeros ("" for zero) and exactly
-// `decimals` fraction digits.
-void RoundedDigits(double magnitude, int decimals, std::string& integer, std::string& fraction) {
-  char buffer[64];
-  // d.dddddddddddddde±xx, with "." whatever the locale says.
-  const auto written = std::to_chars(buffer, buffer + sizeof buffer, magnitude, std::chars_format::scientific, 14);
-  const std::string text(buffer, written.ptr);
-  const auto ePos = text.find('e');
-  std::string digits = text.substr(0, 1) + text.substr(2, ePos - 2);
-  const int exponent = std::stoi(text.substr(ePos + 1));
-  // Position of the decimal point within `digits`: after (exponent + 1) digits.
-  int pointAt = exponent + 1;
-  if (pointAt < 0) {
-    digits.insert(0, static_cast<std::size_t>(-pointAt), '0');
-    pointAt = 0;
+// A pattern taken apart once: listings format the same few patterns hundreds of thousands of times.
+struct CompiledPattern {
+  std::string integerTokens;  // the integer section without its grouping commas
+  bool grouping = false;
+  std::size_t placeholders = 0;  // in the integer section
+  std::size_t first = std::string::npos, last = std::string::npos;  // first and last placeholder
+  bool literalsInside = false;   // a literal between the first and the last placeholder
+  bool hasPoint = false;
+  std::string fractionSection;
+  int decimals = 0;
+};
+
+CompiledPattern CompilePattern(std::string_view pattern) {
+  CompiledPattern compiled;
+  const auto point = pattern.find('.');
+  compiled.hasPoint = point != std::string_view::npos;
+  for (char c : pattern.substr(0, point)) {
+    if (c == ',') compiled.grouping = true;
+    else compiled.integerTokens += c;
   }
-  const int keep = pointAt + decimals;
-  if (static_cast<int>(digits.size()) < keep) digits.append(static_cast<std::size_t>(keep) - digits.size(), '0');
-  const bool roundUp = keep >= 0 && keep < static_cast<int>(digits.size()) && digits[static_cast<std::size_t>(keep)] >= '5';
-  digits.resize(static_cast<std::size_t>(keep < 0 ? 0 : keep));
-  if (roundUp) {
+  const std::string& tokens = compiled.integerTokens;
+  for (char c : tokens) compiled.placeholders += IsPlaceholder(c) ? 1 : 0;
+  compiled.first = tokens.find_first_of("0#");
+  compiled.last = tokens.find_last_of("0#");
+  for (std::size_t i = compiled.first; compiled.first != std::string::npos && i <= compiled.last; ++i)
+    compiled.literalsInside = compiled.literalsInside || !IsPlaceholder(tokens[i]);
+  if (compiled.hasPoint) compiled.fractionSection = std::string(pattern.substr(point + 1));
+  for (char c : compiled.fractionSection) compiled.decimals += IsPlaceholder(c) ? 1 : 0;
+  return compiled;
+}
+
+const CompiledPattern& Compiled(std::string_view pattern) {
+  thread_local std::vector<std::pair<std::string, CompiledPattern>> cache;
+  for (const auto& [text, compiled] : cache)
+    if (text == pattern) return compiled;
+  cache.emplace_back(std::string(pattern), CompilePattern(pattern));
+  return cache.back().second;
+}
+
+// The magnitude's decimal digits rounded half away from zero to `decimals` places, from its
+// 15-significant-digit form: `integer` without leading zeros (empty for zero) and exactly
+// `decimals` fraction digits in `fraction`.
+struct RoundedDigits {
+  std::string_view integer, fraction;
+  char buffer[512];
+};
+
+void Round(double magnitude, int decimals, RoundedDigits& out) {
+  char scientific[64];  // d.dddddddddddddde±xx, with "." whatever the locale says
+  const auto written =
+      std::to_chars(scientific, scientific + sizeof scientific, magnitude, std::chars_format::scientific, 14);
+  const char* e = std::find(scientific, written.ptr, 'e');
+  char mantissa[15];
+  mantissa[0] = scientific[0];
+  std::copy(static_cast<const char*>(scientific + 2), e, mantissa + 1);
+  int exponent = 0;
+  std::from_chars(e + (e[1] == '+' ? 2 : 1), written.ptr, exponent);
+
+  // The digits are `zeros` zeros, the 15 of the mantissa, then zeros; the point stands after
+  // `pointAt` of them.
+  int pointAt = exponent + 1;
+  const int zeros = pointAt < 0 ? -pointAt : 0;
+  pointAt = std::max(pointAt, 0);
+  const auto digitAt = [&](int k) { return k < zeros || k - zeros >= 15 ? '0' : mantissa[k - zeros]; };
+  const int keep = std::min(pointAt + decimals, static_cast<int>(sizeof out.buffer) - 2);
+  char* digits = out.buffer + 1;  // room for a carry in front
+  for (int k = 0; k < keep; ++k) digits[k] = digitAt(k);
+  int length = keep;
+  if (digitAt(keep) >= '5') {
     int i = keep - 1;
-    for (; i >= 0 && digits[static_cast<std::size_t>(i)] == '9'; --i) digits[static_cast<std::size_t>(i)] = '0';
+    for (; i >= 0 && digits[i] == '9'; --i) digits[i] = '0';
     if (i >= 0) {
-      ++digits[static_cast<std::size_t>(i)];
+      ++digits[i];
     } else {
-      digits.insert(0, "1");
+      *--digits = '1';
+      ++length;
       ++pointAt;
     }
   }
-  integer = digits.substr(0, static_cast<std::size_t>(pointAt));
-  fraction = digits.substr(static_cast<std::size_t>(pointAt));
-  const auto firstNonZero = integer.find_first_not_of('0');
-  integer = firstNonZero == std::string::npos ? std::string() : integer.substr(firstNonZero);
+  int firstNonZero = 0;
+  while (firstNonZero < pointAt && digits[firstNonZero] == '0') ++firstNonZero;
+  out.integer = std::string_view(digits + firstNonZero, static_cast<std::size_t>(pointAt - firstNonZero));
+  out.fraction = std::string_view(digits + pointAt, static_cast<std::size_t>(length - pointAt));
 }
 
-std::string GroupThousands(const std::string& digits) {
-  std::string out;
+void AppendGrouped(std::string& out, std::string_view digits) {
   for (std::size_t i = 0; i < digits.size(); ++i) {
     if (i > 0 && (digits.size() - i) % 3 == 0) out += ',';
     out += digits[i];
   }
-  return out;
 }
 
-// Lays the integer digits into the integer section's placeholders from the right; excess digits
-// go out at the leftmost placeholder, literals keep their places.
-std::string IntegerSection(std::string_view section, const std::string& digits) {
-  bool grouping = false;
-  std::string tokens;  // the section without its grouping commas
-  for (char c : section) {
-    if (c == ',') grouping = true;
-    else tokens += c;
+// Lays the integer digits into the placeholders from the right; excess digits go out at the
+// leftmost placeholder, "0" places with no digit show a zero, literals keep their places.
+void AppendIntegerSection(std::string& out, const CompiledPattern& p, std::string_view digits) {
+  const std::string& tokens = p.integerTokens;
+  if (p.placeholders == 0) {  // ".00": the integer digits stand before the point
+    out += tokens;
+    out += digits;
+    return;
   }
-  std::size_t placeholders = 0;
-  for (char c : tokens) placeholders += IsPlaceholder(c) ? 1 : 0;
-  if (placeholders == 0) return tokens + digits;  // ".00": the integer digits stand before the point
-  bool literalsInside = false;
-  {
-    const auto first = tokens.find_first_of("0#");
-    const auto last = tokens.find_last_of("0#");
-    for (std::size_t i = first; first != std::string::npos && i <= last; ++i)
-      literalsInside = literalsInside || !IsPlaceholder(tokens[i]);
-  }
-  // Digits for each placeholder, zero-filled where the placeholder is "0".
-  std::vector<std::string> fill(placeholders);
-  std::size_t taken = 0;
-  std::size_t index = placeholders;
-  for (std::size_t t = tokens.size(); t-- > 0;) {
-    if (!IsPlaceholder(tokens[t])) continue;
-    --index;
-    if (taken < digits.size()) {
-      fill[index] = index == 0 ? digits.substr(0, digits.size() - taken) : std::string(1, digits[digits.size() - 1 - taken]);
-      taken += fill[index].size();
-    } else if (tokens[t] == '0') {
-      fill[index] = "0";
+  const std::size_t count = digits.size();
+  // What placeholder j (counted from the left) shows.
+  const auto appendFill = [&](std::string& to, std::size_t j, char placeholder) {
+    const std::size_t fromRight = p.placeholders - 1 - j;
+    if (fromRight < count) {
+      if (j == 0) to.append(digits.substr(0, count - fromRight));
+      else to += digits[count - 1 - fromRight];
+    } else if (placeholder == '0') {
+      to += '0';
     }
-  }
-  if (grouping && !literalsInside) {
+  };
+  std::size_t j = 0;
+  if (p.grouping && !p.literalsInside) {
     std::string number;
-    for (const auto& f : fill) number += f;
-    const auto first = tokens.find_first_of("0#");
-    const auto last = tokens.find_last_of("0#");
-    return tokens.substr(0, first) + GroupThousands(number) + tokens.substr(last + 1);
+    for (char c : tokens)
+      if (IsPlaceholder(c)) appendFill(number, j++, c);
+    out.append(tokens, 0, p.first);
+    AppendGrouped(out, number);
+    out.append(tokens, p.last + 1);
+    return;
   }
-  std::string out;
-  index = 0;
-  for (char c : tokens) out += IsPlaceholder(c) ? fill[index++] : std::string(1, c);
-  return out;
+  for (char c : tokens) {
+    if (IsPlaceholder(c)) appendFill(out, j++, c);
+    else out += c;
+  }
 }
 
 // Fraction digits into the fraction section's placeholders; trailing "#" places drop their zeros.
-std::string FractionSection(std::string_view section, std::string fraction) {
-  std::vector<std::size_t> places;
-  for (std::size_t i = 0; i < section.size(); ++i)
-    if (IsPlaceholder(section[i])) places.push_back(i);
-  std::vector<bool> shown(places.size(), true);
-  for (std::size_t p = places.size(); p-- > 0;) {
-    if (section[places[p]] != '#' || fraction[p] != '0') break;
-    shown[p] = false;
+void AppendFractionSection(std::string& out, const CompiledPattern& p, std::string_view fraction) {
+  const std::string& section = p.fractionSection;
+  std::size_t shown = static_cast<std::size_t>(p.decimals);  // places shown, from the left
+  for (std::size_t i = section.size(); i-- > 0 && shown > 0;) {
+    if (!IsPlaceholder(section[i])) continue;
+    if (section[i] != '#' || fraction[shown - 1] != '0') break;
+    --shown;
   }
-  std::string out;
-  std::size_t p = 0;
+  std::size_t place = 0;
   for (char c : section) {
-    if (!IsPlaceholder(c)) {
-      out += c;
-      continue;
-    }
-    if (shown[p]) out += fraction[p];
-    ++p;
+    if (!IsPlaceholder(c)) out += c;
+    else if (place++ < shown) out += fraction[place - 1];
   }
-  return out;
 }
 
 }  // namespace
 
 std::string Format(double value, std::string_view pattern) {
   if (!std::isfinite(value)) throw Overflow();
-  const auto point = pattern.find('.');
-  const std::string_view integerSection = pattern.substr(0, point);
-  const std::string_view fractionSection = point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
-  int decimals = 0;
-  for (char c : fractionSection) decimals += IsPlaceholder(c) ? 1 : 0;
+  const CompiledPattern& compiled = Compiled(pattern);
+  RoundedDigits digits;
+  Round(std::fabs(value), compiled.decimals, digits);
 
-  std::string integer, fraction;
-  RoundedDigits(std::fabs(value), decimals, integer, fraction);
-
-  std::string out = value < 0 ? "-" : "";
-  out += IntegerSection(integerSection, integer);
-  if (point != std::string_view::npos) out += '.' + FractionSection(fractionSection, fraction);
+  std::string out;
+  out.reserve(pattern.size() + digits.integer.size() + 8);
+  if (value < 0) out += '-';
+  AppendIntegerSection(out, compiled, digits.integer);
+  if (compiled.hasPoint) {
+    out += '.';
+    AppendFractionSection(out, compiled, digits.fraction);
+  }
   return out;
 }
 
