@@ -23,6 +23,7 @@
 #include "dataset/compress_dataset.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/load_dataset_index.hpp"
+#include "bench_options.hpp"
 #include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "fakes/fakes.hpp"
@@ -152,13 +153,8 @@ int Run(const char* self, std::uint64_t megabytes, const std::string& folder) {
 int main(int argc, char** argv) {
   try {
     if (argc == 4 && std::strcmp(argv[1], "--build-only") == 0) return benchlog::bench::BuildOnly(argv[2], argv[3]);
-    std::uint64_t megabytes = 100;
-    std::string folder = (std::filesystem::temp_directory_path() / "benchlog-bench").string();
-    for (int i = 1; i + 1 < argc; i += 2) {
-      if (std::strcmp(argv[i], "--mb") == 0) megabytes = std::strtoull(argv[i + 1], nullptr, 10);
-      if (std::strcmp(argv[i], "--dir") == 0) folder = argv[i + 1];
-    }
-    return benchlog::bench::Run(argv[0], megabytes, folder);
+    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
+    return benchlog::bench::Run(argv[0], options.megabytes, options.folder);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "dataset_bench: %s\n", failure.what());
     return 1;

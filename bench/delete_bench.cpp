@@ -11,6 +11,7 @@
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/dataset_paths.hpp"
+#include "bench_options.hpp"
 #include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "fakes/fakes.hpp"
@@ -60,15 +61,9 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 }  // namespace benchlog::bench
 
 int main(int argc, char** argv) {
-  std::uint64_t megabytes = 100;
-  std::string folder = (std::filesystem::temp_directory_path() / "benchlog-bench").string();
-  for (int i = 1; i + 1 < argc; i += 2) {
-    const std::string option = argv[i];
-    if (option == "--mb") megabytes = std::strtoull(argv[i + 1], nullptr, 10);
-    else if (option == "--dir") folder = argv[i + 1];
-  }
+  const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
   try {
-    return benchlog::bench::Run(megabytes, folder);
+    return benchlog::bench::Run(options.megabytes, options.folder);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "delete_bench: %s\n", failure.what());
     return 2;

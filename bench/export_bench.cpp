@@ -12,6 +12,7 @@
 #include "app/session.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "bench_options.hpp"
 #include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "export/export_commands.hpp"
@@ -76,13 +77,8 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 
 int main(int argc, char** argv) {
   try {
-    std::uint64_t megabytes = 100;
-    std::string folder = (std::filesystem::temp_directory_path() / "benchlog-bench").string();
-    for (int i = 1; i + 1 < argc; i += 2) {
-      if (std::strcmp(argv[i], "--mb") == 0) megabytes = std::strtoull(argv[i + 1], nullptr, 10);
-      if (std::strcmp(argv[i], "--dir") == 0) folder = argv[i + 1];
-    }
-    return benchlog::bench::Run(megabytes, folder);
+    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
+    return benchlog::bench::Run(options.megabytes, options.folder);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "export_bench: %s\n", failure.what());
     return 1;

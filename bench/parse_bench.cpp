@@ -22,6 +22,7 @@
 
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "bench_options.hpp"
 #include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "export/mark_record.hpp"
@@ -172,16 +173,12 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 
 int main(int argc, char** argv) {
   try {
-    std::uint64_t megabytes = 100;
-    std::string folder = (std::filesystem::temp_directory_path() / "benchlog-parse-bench").string();
+    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-parse-bench");
     int parseRuns = 0;
-    for (int i = 1; i + 1 < argc; i += 2) {
-      if (std::strcmp(argv[i], "--mb") == 0) megabytes = std::strtoull(argv[i + 1], nullptr, 10);
-      if (std::strcmp(argv[i], "--dir") == 0) folder = argv[i + 1];
+    for (int i = 1; i + 1 < argc; i += 2)
       if (std::strcmp(argv[i], "--parse-only") == 0) parseRuns = std::atoi(argv[i + 1]);
-    }
-    if (parseRuns > 0) return benchlog::bench::ParseOnly(folder, parseRuns);
-    return benchlog::bench::Run(megabytes, folder);
+    if (parseRuns > 0) return benchlog::bench::ParseOnly(options.folder, parseRuns);
+    return benchlog::bench::Run(options.megabytes, options.folder);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "parse_bench: %s\n", failure.what());
     return 1;
