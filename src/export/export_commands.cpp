@@ -10,7 +10,7 @@
 #include "dataset/description_file.hpp"
 #include "export/export_files.hpp"
 #include "export/export_forms.hpp"
-#include "export/mapped_text.hpp"
+#include "export/text_blocks.hpp"
 #include "view/frm_select_points.hpp"
 #include "view/frm_view.hpp"
 
@@ -62,15 +62,17 @@ void RunExportCommand(Session& session, Platform& platform) {
   if (options.Tag == "Canceled") return;
   platform.ui.DoEvents();
 
-  // All marks: the dataset read whole, in place. Chosen marks: their Descriptions one after another.
-  std::unique_ptr<MappedText> dataset;
+  // All marks: the dataset, read from the file as the export goes. Chosen marks: their
+  // Descriptions one after another.
+  std::unique_ptr<TextBlocks> text;
   std::string chosen;
   if (!options.optSelectedSta) {
-    dataset = std::make_unique<MappedText>(session.DatFile);
-  } else if (!SelectedDescriptions(session, platform, chosen)) {
+    text = std::make_unique<TextBlocks>(session.DatFile);
+  } else if (SelectedDescriptions(session, platform, chosen)) {
+    text = std::make_unique<TextBlocks>(std::string_view(chosen));
+  } else {
     return;
   }
-  const std::string_view text = dataset ? dataset->Text() : std::string_view(chosen);
   if (options.chkDB == 1) {
     frmCDT& cdt = CdtForm(session, platform);
     platform.ui.ShowModal(cdt);
@@ -85,7 +87,7 @@ void RunExportCommand(Session& session, Platform& platform) {
   const std::string outFileName = platform.ui.FileDialog(request);
 
   std::string ErrMsg;
-  ExportFiles(session, platform, text, outFileName, ErrMsg);
+  ExportFiles(session, platform, *text, outFileName, ErrMsg);
   platform.dlgProcessing.Hide();
   if (!ErrMsg.empty()) platform.ui.MsgBox(ErrMsg, MsgButtons::Ok, MsgIcon::None, "Export Files");
 }

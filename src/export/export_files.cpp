@@ -66,7 +66,7 @@ void ShowProgress(Progress& progress) {
   progress.Show();
 }
 
-void RunExport(Session& session, Platform& platform, std::string_view strMkData, const std::string& OutFileName,
+void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, const std::string& OutFileName,
                std::string& ErrMsg) {
   const frmOutputOptions& options = OutputOptionsForm(session, platform);
   const frmCDT& cdt = CdtForm(session, platform);
@@ -89,10 +89,9 @@ void RunExport(Session& session, Platform& platform, std::string_view strMkData,
     return;
   }
 
-  std::vector<std::size_t> starts;
-  std::vector<std::string> pids;
-  std::size_t count = 0;
-  FindDescriptions(strMkData, starts, pids, count);
+  // The Descriptions are counted first, for the progress bar, then read again one by one.
+  const std::size_t count = CountDescriptions(strMkData);
+  strMkData.Rewind();
   progress.min = 0;
   progress.max = static_cast<int>(count);
   const std::size_t refreshEvery = count / kProgressSteps + 1;
@@ -101,21 +100,23 @@ void RunExport(Session& session, Platform& platform, std::string_view strMkData,
   auto parsed = std::make_unique<MarkRecord>();
   std::vector<std::string_view> lines;
   MarkValues values;
-  for (std::size_t i = 1; i <= count; ++i) {
+  DescriptionStream descriptions(strMkData);
+  for (std::size_t i = 1; i <= count && descriptions.Next(); ++i) {
     progress.value = static_cast<int>(i);
     if (i % refreshEvery == 0 || i == count) progress.Refresh();
     MarkRecord& record = *parsed;
     ClearMarkRecord(record);
-    DescriptionLines(strMkData, starts[i - 1], pids[i - 1], lines);
+    descriptions.Lines(lines);
+    const std::string_view pid = descriptions.Pid();
     std::string parseError;  // every Description found has at least its first line
-    ParseDescription(pids[i - 1], lines, 0, ParseGroups{}, parseError, record, platform.paths.supportPath);
+    ParseDescription(pid, lines, 0, ParseGroups{}, parseError, record, platform.paths.supportPath);
     record.Serial = Format(static_cast<double>(i), "0000");
     values.horizontal = HasHorizontalControl(record);
     values.vertical = HasVerticalControl(record);
     ComputePlaneValues(setup, record, values);
     ComputeUtmValues(setup, record, values);
     ComputePictureFlags(pictures, record, values);
-    for (auto& output : outputs) output->WriteMark(record, pids[i - 1], values);
+    for (auto& output : outputs) output->WriteMark(record, pid, values);
   }
 
   for (auto& output : outputs) output->Finish();
@@ -126,7 +127,7 @@ void RunExport(Session& session, Platform& platform, std::string_view strMkData,
 
 }  // namespace
 
-void ExportFiles(Session& session, Platform& platform, std::string_view strMkData, const std::string& OutFileName,
+void ExportFiles(Session& session, Platform& platform, TextBlocks& strMkData, const std::string& OutFileName,
                  std::string& ErrMsg) {
   ErrMsg.clear();
   try {

@@ -2,14 +2,13 @@
 // ExportFiles: the export's one pass over a text of Descriptions into the outputs ticked in
 // frmOutputOptions (read as the dialogs stand when it runs).
 #include <string>
-#include <string_view>
-
 #include "app/session.hpp"
+#include "export/text_blocks.hpp"
 #include "platform/platform.hpp"
 
 namespace benchlog {
 
-// Writes the outputs of the Descriptions in `strMkData` (CR LF lines) under the names formed from
+// Writes the outputs of the Descriptions in `strMkData` (CR LF lines, read from its start) under the names formed from
 // `OutFileName` (export_names.hpp), which also become the session's HclFile, VclFile, SA6File and
 // ErrFile. In order: the zone's line is looked up by the first 5 characters of cboProjZone, the
 // progress dialog shows "Processing " and "Please wait...", the ticked outputs are opened (an
@@ -19,7 +18,7 @@ namespace benchlog {
 // the dialog is hidden and "Processing complete!" is shown in a box titled "Create File(s)".
 // `ErrMsg` is emptied on entry. A run-time failure (a coordinate text too wide for its column,
 // a file that cannot be written) ends the export without a report; what was written stays.
-void ExportFiles(Session& session, Platform& platform, std::string_view strMkData, const std::string& OutFileName,
+void ExportFiles(Session& session, Platform& platform, TextBlocks& strMkData, const std::string& OutFileName,
                  std::string& ErrMsg);
 
 }  // namespace benchlog

@@ -3,7 +3,6 @@
 #include <cstring>
 
 #include "common/runtime_failure.hpp"
-#include "common/text.hpp"
 #include "dataset/dataset_text.hpp"
 
 #ifdef __SSE2__
@@ -11,18 +10,15 @@
 #endif
 
 namespace benchlog {
-namespace {
 
-// Calls `found(offset)` for every "1" that follows a CR LF, in order. Most lines of a dataset
-// begin with a blank, so the text is scanned 16 bytes at a time for an LF followed by "1".
-template <class Found>
-void ForEachHeaderAfterLineEnd(std::string_view text, Found&& found) {
-  const char* const begin = text.data();
-  const std::size_t size = text.size();
-  const auto check = [&](std::size_t lf) {
-    if (lf >= 1 && begin[lf - 1] == '\r' && lf + 1 < size && begin[lf + 1] == '1') found(lf + 1);
-  };
-  std::size_t at = 0;
+std::size_t FindHeader(std::string_view window, std::size_t from, bool textStart) {
+  const char* const begin = window.data();
+  const std::size_t size = window.size();
+  if (from == 0 && textStart && size > 0 && begin[0] == '1') return 0;
+  // A header at `at` + 1 has an LF at `at` and a CR before it. Most lines begin with a blank, so
+  // the window is scanned 16 bytes at a time for an LF followed by "1".
+  std::size_t at = from < 2 ? 1 : from - 1;
+  const auto isHeader = [&](std::size_t lf) { return begin[lf - 1] == '\r'; };
 #ifdef __SSE2__
   const __m128i lineFeed = _mm_set1_epi8('\n');
   const __m128i one = _mm_set1_epi8('1');
@@ -31,14 +27,16 @@ void ForEachHeaderAfterLineEnd(std::string_view text, Found&& found) {
     const __m128i next = _mm_loadu_si128(reinterpret_cast<const __m128i*>(begin + at + 1));
     auto mask = static_cast<unsigned>(
         _mm_movemask_epi8(_mm_and_si128(_mm_cmpeq_epi8(here, lineFeed), _mm_cmpeq_epi8(next, one))));
-    for (; mask; mask &= mask - 1) check(at + static_cast<std::size_t>(__builtin_ctz(mask)));
+    for (; mask; mask &= mask - 1) {
+      const std::size_t lf = at + static_cast<std::size_t>(__builtin_ctz(mask));
+      if (isHeader(lf)) return lf + 1;
+    }
   }
 #endif
-  for (; at < size; ++at)
-    if (begin[at] == '\n') check(at);
+  for (; at + 1 < size; ++at)
+    if (begin[at] == '\n' && begin[at + 1] == '1' && isHeader(at)) return at + 1;
+  return std::string_view::npos;
 }
-
-}  // namespace
 
 std::string_view LineAt(std::string_view text, std::size_t offset, std::size_t& next) {
   std::size_t end = offset;
@@ -56,33 +54,64 @@ std::string_view LineAt(std::string_view text, std::size_t offset, std::size_t& 
   return text.substr(offset, end - offset);
 }
 
-void FindDescriptions(std::string_view text, std::vector<std::size_t>& starts, std::vector<std::string>& pids,
-                      std::size_t& count) {
-  // A line starts the text or follows a CR LF; only those whose first character is "1" matter.
-  const auto header = [&](std::size_t offset) {
-    std::size_t next = 0;
-    LineAt(text, offset, next);
-    if (next == std::string_view::npos) throw SubscriptOutOfRange();
-    std::size_t after = 0;
-    ++count;
-    starts.push_back(next);
-    pids.push_back(Mid(LineAt(text, next, after), 2, 6));
-  };
-  if (!text.empty() && text.front() == '1') header(0);
-  ForEachHeaderAfterLineEnd(text, header);
-}
-
-void DescriptionLines(std::string_view text, std::size_t start, std::string_view pid,
+bool DescriptionLines(std::string_view text, std::size_t start, std::string_view pid,
                       std::vector<std::string_view>& lines) {
   lines.clear();
   std::size_t offset = start;
-  while (offset != std::string_view::npos) {
+  for (;;) {
     std::size_t next = 0;
     const std::string_view line = LineAt(text, offset, next);
     lines.push_back(line);
-    if (LinePid(line) != pid) break;
+    if (next == std::string_view::npos) return false;
+    if (LinePid(line) != pid) return true;
     offset = next;
   }
+}
+
+bool DescriptionStream::ReadOn(std::size_t keepFrom) {
+  const std::size_t keep = InWindow(keepFrom);
+  return text_.More(keep < 2 ? 0 : keep - 2);
+}
+
+bool DescriptionStream::Next() {
+  for (;;) {
+    const std::string_view window = text_.Window();
+    const std::size_t found = FindHeader(window, InWindow(scanFrom_), text_.WindowStart() == 0);
+    if (found == std::string_view::npos) {
+      // Every line start in the window has been looked at.
+      scanFrom_ = text_.WindowStart() + window.size();
+      if (!ReadOn(scanFrom_)) return false;
+      continue;
+    }
+    std::size_t next = 0;
+    std::size_t after = 0;
+    LineAt(window, found, next);
+    const std::string_view pidLine =
+        next == std::string_view::npos ? std::string_view() : LineAt(window, next, after);
+    if (next == std::string_view::npos || after == std::string_view::npos) {
+      // The header's line or the line after it may go on behind the window.
+      scanFrom_ = text_.WindowStart() + found;
+      if (ReadOn(scanFrom_)) continue;
+      if (next == std::string_view::npos) throw SubscriptOutOfRange();
+    }
+    header_ = text_.WindowStart() + found;
+    start_ = text_.WindowStart() + next;
+    scanFrom_ = header_ + 1;
+    pid_.assign(LinePid(pidLine));
+    return true;
+  }
+}
+
+void DescriptionStream::Lines(std::vector<std::string_view>& lines) {
+  while (!DescriptionLines(text_.Window(), InWindow(start_), pid_, lines) && ReadOn(header_)) {
+  }
+}
+
+std::size_t CountDescriptions(TextBlocks& text) {
+  DescriptionStream stream(text);
+  std::size_t count = 0;
+  while (stream.Next()) ++count;
+  return count;
 }
 
 }  // namespace benchlog

@@ -1,52 +1,131 @@
 // Cutting the export's text into Descriptions, and the names of the outputs.
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "common/runtime_failure.hpp"
 #include "export/export_names.hpp"
+#include "common/line_input.hpp"
+#include "common/text.hpp"
 #include "export/find_descriptions.hpp"
+#include "fakes/temp_folder.hpp"
 
 namespace benchlog::testing {
 namespace {
 
-TEST(FindDescriptions, EveryLineStartingWithOneOpensADescription) {
-  const std::string text =
-      "1      first header\r\n AB1234  DESIGNATION\r\n AB1234  PID\r\n12 also a header\r\n CD5678 x\r\n"
-      "1\r\n\r\n";
-  std::vector<std::size_t> starts{99};
-  std::vector<std::string> pids{"KEPT"};
-  std::size_t count = 1;
-  FindDescriptions(text, starts, pids, count);
-  EXPECT_EQ(count, 4u);
-  // Byte offsets of the lines after the headers: " AB1234  DESIGNATION", " CD5678 x", "".
-  EXPECT_EQ(starts, (std::vector<std::size_t>{99, 21, 75, 89}));
-  // The PID is columns 2 to 7 of the next line, whatever it holds.
-  EXPECT_EQ(pids, (std::vector<std::string>{"KEPT", "AB1234", "CD5678", ""}));
-}
-
-TEST(FindDescriptions, TextWithoutHeadersHasNone) {
-  std::vector<std::size_t> starts;
-  std::vector<std::string> pids;
-  std::size_t count = 0;
-  FindDescriptions(" AB1234  DESIGNATION\r\n\r\n", starts, pids, count);
-  EXPECT_EQ(count, 0u);
-  EXPECT_TRUE(starts.empty() && pids.empty());
-}
-
-TEST(FindDescriptions, AHeaderAsTheVeryLastLineFailsOnTheBound) {
-  std::vector<std::size_t> starts;
-  std::vector<std::string> pids;
-  std::size_t count = 0;
-  try {
-    FindDescriptions("1      header\r\n AB1234 x\r\n1      last", starts, pids, count);
-    FAIL();
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.number, kSubscriptOutOfRange);
+// What the export makes of a text, Description by Description: the PID and the parser's lines.
+struct Found {
+  std::string pid;
+  std::vector<std::string> lines;
+  bool operator==(const Found&) const = default;
+  friend void PrintTo(const Found& found, std::ostream* out) {
+    *out << found.pid << ": " << ::testing::PrintToString(found.lines);
   }
+};
+using Walk = std::vector<Found>;
+constexpr const char* kFails = "Subscript out of range";
+
+Walk Collect(TextBlocks& text, std::string& failure) {
+  Walk walk;
+  DescriptionStream stream(text);
+  std::vector<std::string_view> lines;
+  try {
+    while (stream.Next()) {
+      stream.Lines(lines);
+      walk.push_back({std::string(stream.Pid()), {lines.begin(), lines.end()}});
+    }
+  } catch (const RuntimeFailure& error) {
+    if (error.number == kSubscriptOutOfRange) failure = kFails;
+  }
+  return walk;
+}
+
+// The same, worked out line by line from the text split at CR LF, as the export is meant to cut it.
+Walk Expected(const std::string& text, std::string& failure) {
+  const std::vector<std::string> all = SplitCrLf(text);
+  Walk walk;
+  for (std::size_t j = 0; j < all.size(); ++j) {
+    if (all[j].empty() || all[j][0] != '1') continue;
+    if (j + 1 == all.size()) {
+      failure = kFails;
+      break;
+    }
+    Found found{Mid(all[j + 1], 2, 6), {}};
+    for (std::size_t k = j + 1; k < all.size(); ++k) {
+      found.lines.push_back(all[k]);
+      if (Mid(all[k], 2, 6) != found.pid) break;
+    }
+    walk.push_back(found);
+  }
+  return walk;
+}
+
+// Texts of header lines, runs of one PID, other PIDs, lone CRs and LFs, short lines and
+// Descriptions inside one another, with and without a final CR LF.
+std::vector<std::string> SampleTexts() {
+  const std::vector<std::string> pieces{"1      header", " AB1234 one",   " AB1234", " CD5678 other", "",
+                                        "1AB1234 both",  " AB1234 a\rb", "1",       " AB12",         "x\ny",
+                                        " AB1234 z\r"};
+  std::vector<std::string> texts{"",
+                                 "1",
+                                 "1\r\n",
+                                 "1      h\r\n AB1234 x\r\n1      last",
+                                 " AB1234  DESIGNATION\r\n\r\n",
+                                 "1      first header\r\n AB1234  DESIGNATION\r\n AB1234  PID\r\n12 also\r\n"
+                                 " CD5678 x\r\n1\r\n\r\n"};
+  std::mt19937 random(20261122);
+  for (int n = 0; n < 400; ++n) {
+    std::string text;
+    const auto lines = random() % 12;
+    for (unsigned k = 0; k < lines; ++k) {
+      text += pieces[random() % pieces.size()];
+      if (k + 1 < lines || random() % 2) text += "\r\n";
+    }
+    texts.push_back(text);
+  }
+  return texts;
+}
+
+// Read whole or in blocks of any size, down to one byte, the text gives the same Descriptions.
+TEST(DescriptionStream, FindsWhatTheLinesOfTheTextHold) {
+  TempFolder folder;
+  for (const std::string& text : SampleTexts()) {
+    std::string expectedFailure;
+    const Walk expected = Expected(text, expectedFailure);
+    const std::string path = folder.Write("text.dat", text);
+    for (const std::size_t block : {1, 2, 3, 5, 8, 13, 4096}) {
+      TextBlocks blocks(path, block);
+      std::string failure;
+      EXPECT_EQ(Collect(blocks, failure), expected) << ::testing::PrintToString(text) << " in blocks of " << block;
+      EXPECT_EQ(failure, expectedFailure) << ::testing::PrintToString(text);
+    }
+    TextBlocks whole{std::string_view(text)};
+    std::string failure;
+    EXPECT_EQ(Collect(whole, failure), expected) << ::testing::PrintToString(text);
+    EXPECT_EQ(failure, expectedFailure);
+  }
+}
+
+// Counting reads the text to its end; read again from the start, it gives the same. The text's
+// last two lines are empty, so the Description opened by "12" takes both.
+TEST(DescriptionStream, CountsAndReadsAgainFromTheStart) {
+  TempFolder folder;
+  const std::string path =
+      folder.Write("text.dat", "1      h\r\n AB1234 x\r\n AB1234 y\r\n1\r\n CD5678\r\n12\r\n\r\n");
+  TextBlocks blocks(path, 4);
+  EXPECT_EQ(CountDescriptions(blocks), 3u);
+  blocks.Rewind();
+  std::string failure;
+  const Walk walk = Collect(blocks, failure);
+  EXPECT_EQ(walk, (Walk{{"AB1234", {" AB1234 x", " AB1234 y", "1"}}, {"CD5678", {" CD5678", "12"}}, {"", {"", ""}}}));
+  TextBlocks missing(std::string_view("1      header"));
+  EXPECT_THROW(CountDescriptions(missing), RuntimeFailure);
+  EXPECT_THROW(TextBlocks(folder.File("none.dat")), RuntimeFailure);
 }
 
 // Lines end only at CR LF: a lone CR or LF stays inside its line, and a final CR LF leaves an
 // empty last line.
-TEST(FindDescriptions, LinesEndAtCrLf) {
+TEST(DescriptionStream, LinesEndAtCrLf) {
   const std::string text = "a\nb\r\r\nc\r\n";
   std::vector<std::string_view> lines;
   std::size_t offset = 0;
@@ -58,13 +137,13 @@ TEST(FindDescriptions, LinesEndAtCrLf) {
 }
 
 // The parser reads a Description's run of lines of its PID and the one line after it.
-TEST(FindDescriptions, DescriptionLinesAreTheRunOfItsPid) {
+TEST(DescriptionStream, DescriptionLinesAreTheRunOfItsPid) {
   const std::string text =
       "1      h\r\n AB1234 one\r\n AB1234 two\r\n CD5678 other\r\n AB1234 later\r\n1      h\r\n AB1234";
   std::vector<std::string_view> lines{"stale"};
-  DescriptionLines(text, 10, "AB1234", lines);
+  EXPECT_TRUE(DescriptionLines(text, 10, "AB1234", lines));
   EXPECT_EQ(lines, (std::vector<std::string_view>{" AB1234 one", " AB1234 two", " CD5678 other"}));
-  DescriptionLines(text, text.size() - 7, "AB1234", lines);
+  EXPECT_FALSE(DescriptionLines(text, text.size() - 7, "AB1234", lines));
   EXPECT_EQ(lines, (std::vector<std::string_view>{" AB1234"}));
 }
 
