@@ -67,9 +67,9 @@ void RunExportCommand(Session& session, Platform& platform) {
   std::unique_ptr<TextBlocks> text;
   std::string chosen;
   if (!options.optSelectedSta) {
-    text = std::make_unique<TextBlocks>(session.DatFile);
+    text = std::make_unique<TextBlocks>(TextFile{session.DatFile});
   } else if (SelectedDescriptions(session, platform, chosen)) {
-    text = std::make_unique<TextBlocks>(std::string_view(chosen));
+    text = std::make_unique<TextBlocks>(chosen);
   } else {
     return;
   }

@@ -13,7 +13,7 @@
 #include "export/find_descriptions.hpp"
 #include "export/listing_outputs.hpp"
 #include "export/mark_values.hpp"
-#include "export/parse_description.hpp"
+#include "export/parsed_marks.hpp"
 #include "geodesy/zone_table.hpp"
 
 namespace benchlog {
@@ -97,19 +97,15 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
   const std::size_t refreshEvery = count / kProgressSteps + 1;
 
   const PictureFolder pictures(setup.datasetFolder);
-  auto parsed = std::make_unique<MarkRecord>();
-  std::vector<std::string_view> lines;
   MarkValues values;
-  DescriptionStream descriptions(strMkData);
-  for (std::size_t i = 1; i <= count && descriptions.Next(); ++i) {
+  ParsedMarks marks(strMkData, platform.paths.supportPath);
+  for (std::size_t i = 1; i <= count; ++i) {
     progress.value = static_cast<int>(i);
     if (i % refreshEvery == 0 || i == count) progress.Refresh();
-    MarkRecord& record = *parsed;
-    ClearMarkRecord(record);
-    descriptions.Lines(lines);
-    const std::string_view pid = descriptions.Pid();
-    std::string parseError;  // every Description found has at least its first line
-    ParseDescription(pid, lines, 0, ParseGroups{}, parseError, record, platform.paths.supportPath);
+    ParsedMark* mark = marks.Next();
+    if (!mark) break;  // the text changed since it was counted
+    MarkRecord& record = mark->record;
+    const std::string_view pid = mark->pid;
     record.Serial = Format(static_cast<double>(i), "0000");
     values.horizontal = HasHorizontalControl(record);
     values.vertical = HasVerticalControl(record);

@@ -8,8 +8,8 @@ namespace benchlog {
 
 TextBlocks::TextBlocks(std::string_view text) : window_(text) {}
 
-TextBlocks::TextBlocks(const std::string& path, std::size_t blockSize) : blockSize_(blockSize) {
-  file_ = std::fopen(path.c_str(), "rb");
+TextBlocks::TextBlocks(const TextFile& file) : blockSize_(file.blockSize) {
+  file_ = std::fopen(file.path.c_str(), "rb");
   if (!file_) throw FileNotFound();
   Rewind();
 }

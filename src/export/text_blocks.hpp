@@ -11,14 +11,19 @@
 
 namespace benchlog {
 
+// A file to be read in blocks of `blockSize` bytes.
+struct TextFile {
+  static constexpr std::size_t kBlockSize = 1 << 20;
+  std::string path;
+  std::size_t blockSize = kBlockSize;
+};
+
 class TextBlocks {
  public:
-  static constexpr std::size_t kBlockSize = 1 << 20;
-
   // A text in memory, which must outlive this object.
   explicit TextBlocks(std::string_view text);
-  // The file at `path`, read `blockSize` bytes at a time. Throws RuntimeFailure "File not found".
-  explicit TextBlocks(const std::string& path, std::size_t blockSize = kBlockSize);
+  // Throws RuntimeFailure "File not found" when the file cannot be opened.
+  explicit TextBlocks(const TextFile& file);
   ~TextBlocks();
   TextBlocks(const TextBlocks&) = delete;
   TextBlocks& operator=(const TextBlocks&) = delete;

@@ -94,12 +94,12 @@ TEST(DescriptionStream, FindsWhatTheLinesOfTheTextHold) {
     const Walk expected = Expected(text, expectedFailure);
     const std::string path = folder.Write("text.dat", text);
     for (const std::size_t block : {1, 2, 3, 5, 8, 13, 4096}) {
-      TextBlocks blocks(path, block);
+      TextBlocks blocks(TextFile{path, block});
       std::string failure;
       EXPECT_EQ(Collect(blocks, failure), expected) << ::testing::PrintToString(text) << " in blocks of " << block;
       EXPECT_EQ(failure, expectedFailure) << ::testing::PrintToString(text);
     }
-    TextBlocks whole{std::string_view(text)};
+    TextBlocks whole(text);
     std::string failure;
     EXPECT_EQ(Collect(whole, failure), expected) << ::testing::PrintToString(text);
     EXPECT_EQ(failure, expectedFailure);
@@ -112,15 +112,15 @@ TEST(DescriptionStream, CountsAndReadsAgainFromTheStart) {
   TempFolder folder;
   const std::string path =
       folder.Write("text.dat", "1      h\r\n AB1234 x\r\n AB1234 y\r\n1\r\n CD5678\r\n12\r\n\r\n");
-  TextBlocks blocks(path, 4);
+  TextBlocks blocks(TextFile{path, 4});
   EXPECT_EQ(CountDescriptions(blocks), 3u);
   blocks.Rewind();
   std::string failure;
   const Walk walk = Collect(blocks, failure);
   EXPECT_EQ(walk, (Walk{{"AB1234", {" AB1234 x", " AB1234 y", "1"}}, {"CD5678", {" CD5678", "12"}}, {"", {"", ""}}}));
-  TextBlocks missing(std::string_view("1      header"));
+  TextBlocks missing("1      header");
   EXPECT_THROW(CountDescriptions(missing), RuntimeFailure);
-  EXPECT_THROW(TextBlocks(folder.File("none.dat")), RuntimeFailure);
+  EXPECT_THROW(TextBlocks(TextFile{folder.File("none.dat")}), RuntimeFailure);
 }
 
 // Lines end only at CR LF: a lone CR or LF stays inside its line, and a final CR LF leaves an

@@ -1,0 +1,65 @@
+#pragma once
+// The Descriptions of the export's text, parsed in order while the export computes and writes
+// the marks before them. Reading and parsing are most of an export's work, so a second thread
+// cuts the text into Descriptions, a few marks ahead, and parses what the export has not yet
+// reached; the export parses a Description itself when it gets there first. The records are
+// used again and again, so the work touches little fresh memory.
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <exception>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "export/mark_record.hpp"
+#include "export/text_blocks.hpp"
+
+namespace benchlog {
+
+// One Description, read by ClearMarkRecord and ParseDescription with all three groups.
+struct ParsedMark {
+  std::string pid;  // columns 2 to 7 of the line after the "1" line
+  MarkRecord record;
+
+  // What the parsing works with.
+  enum State { kFree, kCut, kParsing, kParsed };
+  std::atomic<State> state{kFree};
+  std::string text;                     // the Description's lines, copied out of the text read
+  std::vector<std::string_view> lines;  // into `text`
+  bool end = false;                     // no Description left
+  std::exception_ptr failure;           // what cutting or parsing threw, handed on in the mark's place
+};
+
+class ParsedMarks {
+ public:
+  // Starts on `text` from where it stands; `text` must outlive this object, and nothing else may
+  // use it meanwhile. `supportPath` as for ParseDescription.
+  ParsedMarks(TextBlocks& text, const std::string& supportPath);
+  // Stops the second thread, wherever it stands.
+  ~ParsedMarks();
+  ParsedMarks(const ParsedMarks&) = delete;
+  ParsedMarks& operator=(const ParsedMarks&) = delete;
+
+  // The next Description's mark, which the caller may change, valid until the next call; nullptr
+  // when the text has no more. Throws what reading or parsing this Description threw.
+  ParsedMark* Next();
+
+ private:
+  static constexpr std::size_t kAhead = 16;
+
+  ParsedMark& Slot(std::size_t mark) { return marks_[mark % kAhead]; }
+  void Run(TextBlocks& text);
+  // Parses the mark if nobody has begun it; false when somebody has.
+  bool TryParse(ParsedMark& mark);
+
+  const std::string supportPath_;
+  std::array<ParsedMark, kAhead> marks_;
+  std::atomic<std::size_t> taken_{0};  // marks handed out and done with, whose records may be reused
+  std::atomic<bool> stop_{false};
+  std::size_t next_ = 0;  // the mark Next hands out next
+  std::thread thread_;
+};
+
+}  // namespace benchlog
