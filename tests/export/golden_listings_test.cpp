@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "common/files.hpp"
+#include "export/export_files.hpp"
 #include "export/export_run_support.hpp"
 
 namespace benchlog::testing {
@@ -59,6 +60,20 @@ INSTANTIATE_TEST_SUITE_P(
         GoldenCase{"WideNorthingBreaksTheLine", "tx.dat", "TX SC 4204", true, false, false, {"XT2001"},
                    "tx_break"}),
     [](const ::testing::TestParamInfo<GoldenCase>& info) { return std::string(info.param.name); });
+
+// Read a few bytes at a time, so that Descriptions and lines fall across the blocks, the dataset
+// gives the same listings.
+TEST_F(ExportRunTest, ADatasetReadInSmallBlocksGivesTheSameListings) {
+  OpenDataset("fixture.dat");
+  Choose("NC    3200", true, false);
+  TextBlocks text(TextFile{session.DatFile, 13});
+  std::string ErrMsg = "stale";
+  ExportFiles(session, fake.platform, text, Out("export.out"), ErrMsg);
+  EXPECT_EQ(ErrMsg, "");
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Processing complete!"});
+  EXPECT_EQ(ReadWholeFile(Out("export.hcl")), ListingFixture("nc_feet.hcl"));
+  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), ListingFixture("nc_feet.vcl"));
+}
 
 }  // namespace
 }  // namespace benchlog::testing
