@@ -75,16 +75,21 @@ std::string ReplaceAll(std::string_view s, std::string_view from, std::string_vi
 
 bool StartsWith(std::string_view s, std::string_view prefix) { return s.substr(0, prefix.size()) == prefix; }
 
-std::vector<std::string> Split(std::string_view s, std::string_view separator) {
-  std::vector<std::string> parts;
+std::vector<std::string_view> SplitViews(std::string_view s, std::string_view separator) {
+  std::vector<std::string_view> parts;
   std::size_t pos = 0;
   for (auto hit = s.find(separator); hit != std::string_view::npos && !separator.empty();
        hit = s.find(separator, pos)) {
-    parts.emplace_back(s.substr(pos, hit - pos));
+    parts.push_back(s.substr(pos, hit - pos));
     pos = hit + separator.size();
   }
-  parts.emplace_back(s.substr(pos));
+  parts.push_back(s.substr(pos));
   return parts;
+}
+
+std::vector<std::string> Split(std::string_view s, std::string_view separator) {
+  const std::vector<std::string_view> views = SplitViews(s, separator);
+  return {views.begin(), views.end()};
 }
 
 std::string Join(const std::vector<std::string>& parts, std::string_view separator) {

@@ -37,6 +37,8 @@ bool StartsWith(std::string_view s, std::string_view prefix);
 
 // Splits at every occurrence of `separator`; "a,b," gives "a", "b", "".
 std::vector<std::string> Split(std::string_view s, std::string_view separator);
+// The same parts as views into `s`.
+std::vector<std::string_view> SplitViews(std::string_view s, std::string_view separator);
 std::string Join(const std::vector<std::string>& parts, std::string_view separator);
 
 }  // namespace benchlog

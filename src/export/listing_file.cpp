@@ -24,13 +24,14 @@ void ListingFile::Finish(std::string_view heading) {
 
 void SortAndHeadListing(const std::string& path, std::string_view heading) {
   if (FileLength(path) == 0) return;
-  std::vector<std::string> lines = SplitCrLf(ReadWholeFile(path));
+  const std::string written = ReadWholeFile(path);
+  std::vector<std::string_view> lines = SplitViews(written, kCrLf);
   SortByColumn(lines, 1);
   std::string text(heading);
   std::size_t size = text.size();
   for (const auto& line : lines) size += line.size() + 2;
   text.reserve(size);
-  for (const auto& line : lines) text.append(line).append(kCrLf);
+  for (const std::string_view line : lines) text.append(line).append(kCrLf);
   WriteWholeFile(path, text);
 }
 
