@@ -1,9 +1,7 @@
 #include "export/parsed_marks.hpp"
 
-#include <algorithm>
 #include <chrono>
 
-#include "export/find_descriptions.hpp"
 #include "export/parse_description.hpp"
 
 #if defined(__x86_64__) || defined(__i386__)
@@ -31,15 +29,6 @@ void WaitUntil(Done&& done) {
   }
 }
 
-// The current Description's lines copied into the mark, with their views moved along.
-void CopyLines(const std::vector<std::string_view>& lines, ParsedMark& mark) {
-  const char* const begin = lines.front().data();
-  mark.text.assign(begin, static_cast<std::size_t>(lines.back().data() + lines.back().size() - begin));
-  mark.lines.clear();
-  for (const std::string_view line : lines)
-    mark.lines.emplace_back(mark.text.data() + (line.data() - begin), line.size());
-}
-
 }  // namespace
 
 ParsedMarks::ParsedMarks(TextBlocks& text, const std::string& supportPath)
@@ -50,18 +39,31 @@ ParsedMarks::~ParsedMarks() {
   thread_.join();
 }
 
-bool ParsedMarks::TryParse(ParsedMark& mark) {
-  ParsedMark::State expected = ParsedMark::kCut;
-  // A plain look first: a failed exchange would take the record's line from the other thread.
-  if (mark.state != expected || !mark.state.compare_exchange_strong(expected, ParsedMark::kParsing)) return false;
+bool ParsedMarks::Cut(DescriptionStream& descriptions, std::vector<std::string_view>& lines, Slot& slot) {
+  if (!descriptions.Next()) return false;
+  descriptions.Lines(lines);
+  slot.mark.pid.assign(descriptions.Pid());
+  // The lines are copied out, for the text read moves on; their views move along.
+  const char* const begin = lines.front().data();
+  slot.text.assign(begin, static_cast<std::size_t>(lines.back().data() + lines.back().size() - begin));
+  slot.lines.clear();
+  for (const std::string_view line : lines)
+    slot.lines.emplace_back(slot.text.data() + (line.data() - begin), line.size());
+  return true;
+}
+
+bool ParsedMarks::TryParse(Slot& slot) {
+  Slot::State expected = Slot::kCut;
+  // A plain look first: a failed exchange would take the slot's cache line from the other thread.
+  if (slot.state != expected || !slot.state.compare_exchange_strong(expected, Slot::kParsing)) return false;
   try {
-    ClearMarkRecord(mark.record);
+    ClearMarkRecord(slot.mark.record);
     std::string parseError;  // every Description found has at least its first line
-    ParseDescription(mark.pid, mark.lines, 0, ParseGroups{}, parseError, mark.record, supportPath_);
+    ParseDescription(slot.mark.pid, slot.lines, 0, ParseGroups{}, parseError, slot.mark.record, supportPath_);
   } catch (...) {
-    mark.failure = std::current_exception();
+    slot.failure = std::current_exception();
   }
-  mark.state = ParsedMark::kParsed;
+  slot.state = Slot::kParsed;
   return true;
 }
 
@@ -74,26 +76,21 @@ void ParsedMarks::Run(TextBlocks& text) {
     bool worked = false;
     // Cuts the next Description while a record is free.
     if (!ended && cut < taken_ + kAhead) {
-      ParsedMark& mark = Slot(cut++);
-      mark.failure = nullptr;
+      Slot& slot = SlotOf(cut++);
+      slot.failure = nullptr;
       try {
-        mark.end = !descriptions.Next();
-        if (!mark.end) {
-          descriptions.Lines(lines);
-          mark.pid.assign(descriptions.Pid());
-          CopyLines(lines, mark);
-        }
+        slot.end = !Cut(descriptions, lines, slot);
       } catch (...) {
-        mark.end = true;
-        mark.failure = std::current_exception();
+        slot.end = true;
+        slot.failure = std::current_exception();
       }
-      ended = mark.end;
-      mark.state = ended ? ParsedMark::kParsed : ParsedMark::kCut;
+      ended = slot.end;
+      slot.state = ended ? Slot::kParsed : Slot::kCut;
       worked = true;
     }
     // Then parses the last mark cut that nobody has begun: the export parses the first ones
     // itself when it gets to them, so the two meet in between.
-    for (std::size_t i = cut; i > taken_ && !worked; --i) worked = TryParse(Slot(i - 1));
+    for (std::size_t i = cut; i > taken_ && !worked; --i) worked = TryParse(SlotOf(i - 1));
     if (ended && !worked) return;
     if (!worked) WaitUntil([&] { return stop_ || cut < taken_ + kAhead; });
   }
@@ -101,18 +98,18 @@ void ParsedMarks::Run(TextBlocks& text) {
 
 ParsedMark* ParsedMarks::Next() {
   if (next_ > 0) {
-    Slot(next_ - 1).state = ParsedMark::kFree;  // the mark handed out before is done with
+    SlotOf(next_ - 1).state = Slot::kFree;  // the mark handed out before is done with
     taken_ = next_;
   }
-  ParsedMark& mark = Slot(next_);
+  Slot& slot = SlotOf(next_);
   WaitUntil([&] {
-    TryParse(mark);
-    return mark.state == ParsedMark::kParsed;
+    TryParse(slot);
+    return slot.state == Slot::kParsed;
   });
-  if (mark.failure) std::rethrow_exception(mark.failure);
-  if (mark.end) return nullptr;
+  if (slot.failure) std::rethrow_exception(slot.failure);
+  if (slot.end) return nullptr;
   ++next_;
-  return &mark;
+  return &slot.mark;
 }
 
 }  // namespace benchlog

@@ -4,15 +4,16 @@
 // cuts the text into Descriptions, a few marks ahead, and parses what the export has not yet
 // reached; the export parses a Description itself when it gets there first. The records are
 // used again and again, so the work touches little fresh memory.
-#include <array>
 #include <atomic>
 #include <cstddef>
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <thread>
 #include <vector>
 
+#include "export/find_descriptions.hpp"
 #include "export/mark_record.hpp"
 #include "export/text_blocks.hpp"
 
@@ -22,14 +23,6 @@ namespace benchlog {
 struct ParsedMark {
   std::string pid;  // columns 2 to 7 of the line after the "1" line
   MarkRecord record;
-
-  // What the parsing works with.
-  enum State { kFree, kCut, kParsing, kParsed };
-  std::atomic<State> state{kFree};
-  std::string text;                     // the Description's lines, copied out of the text read
-  std::vector<std::string_view> lines;  // into `text`
-  bool end = false;                     // no Description left
-  std::exception_ptr failure;           // what cutting or parsing threw, handed on in the mark's place
 };
 
 class ParsedMarks {
@@ -49,13 +42,26 @@ class ParsedMarks {
  private:
   static constexpr std::size_t kAhead = 16;
 
-  ParsedMark& Slot(std::size_t mark) { return marks_[mark % kAhead]; }
+  // A record and what parsing it works with.
+  struct Slot {
+    enum State { kFree, kCut, kParsing, kParsed };
+    std::atomic<State> state{kFree};
+    ParsedMark mark;
+    std::string text;                     // the Description's lines, copied out of the text read
+    std::vector<std::string_view> lines;  // into `text`
+    bool end = false;                     // no Description left
+    std::exception_ptr failure;           // what cutting or parsing threw, handed on in the mark's place
+  };
+
+  Slot& SlotOf(std::size_t mark) { return slots_[mark % kAhead]; }
   void Run(TextBlocks& text);
-  // Parses the mark if nobody has begun it; false when somebody has.
-  bool TryParse(ParsedMark& mark);
+  // Cuts the next Description of `descriptions` into `slot`; true when there was one.
+  static bool Cut(DescriptionStream& descriptions, std::vector<std::string_view>& lines, Slot& slot);
+  // Parses the slot's Description if nobody has begun it; false when somebody has.
+  bool TryParse(Slot& slot);
 
   const std::string supportPath_;
-  std::array<ParsedMark, kAhead> marks_;
+  const std::unique_ptr<Slot[]> slots_ = std::make_unique<Slot[]>(kAhead);
   std::atomic<std::size_t> taken_{0};  // marks handed out and done with, whose records may be reused
   std::atomic<bool> stop_{false};
   std::size_t next_ = 0;  // the mark Next hands out next

@@ -11,7 +11,12 @@ TextBlocks::TextBlocks(std::string_view text) : window_(text) {}
 TextBlocks::TextBlocks(const TextFile& file) : blockSize_(file.blockSize) {
   file_ = std::fopen(file.path.c_str(), "rb");
   if (!file_) throw FileNotFound();
-  Rewind();
+  try {
+    Rewind();
+  } catch (...) {
+    std::fclose(file_);
+    throw;
+  }
 }
 
 TextBlocks::~TextBlocks() {
