@@ -27,12 +27,10 @@ void SortAndHeadListing(const std::string& path, std::string_view heading) {
   const std::string written = ReadWholeFile(path);
   std::vector<std::string_view> lines = SplitViews(written, kCrLf);
   SortByColumn(lines, 1);
-  std::string text(heading);
-  std::size_t size = text.size();
-  for (const auto& line : lines) size += line.size() + 2;
-  text.reserve(size);
-  for (const std::string_view line : lines) text.append(line).append(kCrLf);
-  WriteWholeFile(path, text);
+  LineWriter out(path);
+  out.WriteLine(heading.ends_with(kCrLf) ? heading.substr(0, heading.size() - 2) : heading);
+  for (const std::string_view line : lines) out.WriteLine(line);
+  out.Close();
 }
 
 }  // namespace benchlog
