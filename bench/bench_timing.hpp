@@ -18,4 +18,20 @@ inline double Best(int runs, const std::function<double()>& run) {
   return best;
 }
 
+// The best of a few runs of each of two pieces of work that are compared, run in turn: a host
+// that slows down or speeds up during the benchmark then touches both alike.
+struct BestPair {
+  double first = 1e300;
+  double second = 1e300;
+};
+
+inline BestPair BestInTurn(int runs, const std::function<double()>& first, const std::function<double()>& second) {
+  BestPair best;
+  for (int i = 0; i < runs; ++i) {
+    best.first = std::min(best.first, first());
+    best.second = std::min(best.second, second());
+  }
+  return best;
+}
+
 }  // namespace benchlog::bench
