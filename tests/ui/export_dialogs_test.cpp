@@ -28,6 +28,16 @@ Widget* Find(const Window& window, const char* name) {
   return widget;
 }
 
+// Loads `model` from `settings` and the support files, then shows its window.
+template <class Window, class Model>
+std::unique_ptr<Window> Opened(Model& model, testing::MemorySettings& settings) {
+  model.Load(settings, kSupport);
+  auto window = std::make_unique<Window>(model, nullptr);
+  window->LoadFromModel();
+  window->show();
+  return window;
+}
+
 }  // namespace
 
 class ExportDialogsTest : public QObject {
@@ -39,10 +49,8 @@ class ExportDialogsTest : public QObject {
     settings.SaveSetting("frmOutputOptions", "FileTypes", "010000");
     settings.SaveSetting("frmOutputOptions", "UTM", "True");
     frmOutputOptions model;
-    model.Load(settings, kSupport);
-    qt::FrmOutputOptionsWindow window(model, nullptr);
-    window.LoadFromModel();
-    window.show();
+    const auto opened = Opened<qt::FrmOutputOptionsWindow>(model, settings);
+    auto& window = *opened;
 
     const std::pair<const char*, const char*> captions[] = {
         {"optAllSta", "All"},           {"optSelectedSta", "Selected"},  {"chkHoriz", "Horizontal List"},
@@ -68,10 +76,8 @@ class ExportDialogsTest : public QObject {
   void optionsEditsReachTheModelAndOkaySavesThem() {
     testing::MemorySettings settings;
     frmOutputOptions model;
-    model.Load(settings, kSupport);
-    qt::FrmOutputOptionsWindow window(model, nullptr);
-    window.LoadFromModel();
-    window.show();
+    const auto opened = Opened<qt::FrmOutputOptionsWindow>(model, settings);
+    auto& window = *opened;
 
     Find<QCheckBox>(window, "chkMicrostation")->click();
     QCOMPARE(model.chkMicrostation, 1);
@@ -106,10 +112,8 @@ class ExportDialogsTest : public QObject {
   void optionsCancelAndEscapeSetTheTag() {
     testing::MemorySettings settings;
     frmOutputOptions model;
-    model.Load(settings, kSupport);
-    qt::FrmOutputOptionsWindow window(model, nullptr);
-    window.LoadFromModel();
-    window.show();
+    const auto opened = Opened<qt::FrmOutputOptionsWindow>(model, settings);
+    auto& window = *opened;
     Find<QPushButton>(window, "cmdCancel")->click();
     QCOMPARE(model.Tag, std::string("Canceled"));
     QVERIFY(!window.isVisible());
@@ -124,10 +128,8 @@ class ExportDialogsTest : public QObject {
   void cdtButtonsChangeTheModel() {
     testing::MemorySettings settings;
     frmCDT model;
-    model.Load(settings, kSupport);
-    qt::FrmCdtWindow window(model, nullptr);
-    window.LoadFromModel();
-    window.show();
+    const auto opened = Opened<qt::FrmCdtWindow>(model, settings);
+    auto& window = *opened;
     QCOMPARE(window.windowTitle(), QString("Create Microsoft Access Database"));
     QCOMPARE(Find<QCheckBox>(window, "chkUTM")->text(), QString("UTM Coord (meters)"));
     QCOMPARE(Find<QCheckBox>(window, "chkMarkCode")->toolTip(), QString("*80* & *86* records"));
