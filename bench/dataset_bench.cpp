@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-#include "app/session.hpp"
+#include "session/session.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/compress_dataset.hpp"
@@ -93,8 +93,8 @@ int Run(const char* self, std::uint64_t megabytes, const std::string& folder) {
   quiet.Check("build");
   const long peak = BuildPeakKilobytes(self, dat, ndx);
 
-  Session session;
-  session.DatFile = dat;
+  testing::TestSession session;
+  session.dataset.DatFile = dat;
   const double load = Best(5, [&] {
     return Seconds([&] {
       if (LoadDatasetIndex(session, quiet.platform)) throw std::runtime_error("the index was not taken as valid");
@@ -112,7 +112,7 @@ int Run(const char* self, std::uint64_t megabytes, const std::string& folder) {
     for (std::size_t i = 0; i < pids.size(); ++i) {
       std::string text;
       const double one = Seconds([&] {
-        if (!GetDescription(session.markIndex, dat, pids[i], text).empty() || text.rfind("1      ", 0) != 0)
+        if (!GetDescription(session.dataset.markIndex, dat, pids[i], text).empty() || text.rfind("1      ", 0) != 0)
           throw std::runtime_error("look-up of " + pids[i] + " failed");
       });
       if (i == 0) first = one;
@@ -123,7 +123,7 @@ int Run(const char* self, std::uint64_t megabytes, const std::string& folder) {
   std::uint64_t compressed = 0;
   for (int run = 0; run < 3; ++run) {
     cp = std::min(cp, TimeShell("cp " + Quoted(dat) + " " + Quoted(work)));
-    for (std::size_t i = 0; i < made.pids.size(); i += 100) BlankDescription(session.markIndex, work, made.pids[i]);
+    for (std::size_t i = 0; i < made.pids.size(); i += 100) BlankDescription(session.dataset.markIndex, work, made.pids[i]);
     compress = std::min(compress, Seconds([&] { CompressDataset(work, quiet.platform); }));
     compressed = FileLength(work);
   }

@@ -4,7 +4,7 @@
 #include <random>
 #include <string_view>
 
-#include "dataset/line_writer.hpp"
+#include "common/line_writer.hpp"
 
 namespace benchlog::bench {
 namespace {

@@ -7,15 +7,15 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
-#include "dataset/dataset_paths.hpp"
+#include "session/dataset_paths.hpp"
 #include "bench_options.hpp"
 #include "bench_timing.hpp"
 #include "dataset_generator.hpp"
 #include "fakes/fakes.hpp"
-#include "view/frm_select_points.hpp"
+#include "session/frm_select_points.hpp"
 
 namespace benchlog::bench {
 namespace {
@@ -29,11 +29,11 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 
   testing::FakePlatform fake(folder);
   fake.progress.observer = nullptr;
-  Session session;
-  session.DatFile = folder + "/delete_work.dat";
-  std::filesystem::copy_file(source, session.DatFile, std::filesystem::copy_options::overwrite_existing);
+  testing::TestSession session;
+  session.dataset.DatFile = folder + "/delete_work.dat";
+  std::filesystem::copy_file(source, session.dataset.DatFile, std::filesystem::copy_options::overwrite_existing);
   SetDerivedPaths(session, folder);
-  if (!BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, fake.platform))
+  if (!BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform))
     throw std::runtime_error("index build failed");
 
   std::size_t descriptions = 0;

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/session.hpp"
+#include "session/session.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "bench_options.hpp"
@@ -39,9 +39,9 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   SetCurrentEllipsoid({6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)});
   testing::FakePlatform fake(SupportFolder());
   fake.progress.observer = nullptr;
-  Session session;
-  session.DatFile = dat;
-  session.DatFilePath = folder + "/";
+  testing::TestSession session;
+  session.dataset.DatFile = dat;
+  session.dataset.DatFilePath = folder + "/";
 
   // All marks of the dataset (a Colorado one) to both listings in Colorado Central, grid feet.
   frmOutputOptions& options = OutputOptionsForm(session, fake.platform);
@@ -50,7 +50,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   options.cboProjZone = "CO C  0502";
   options.SetUnits(true, false, false);
   const std::string out = folder + "/bench.out";
-  const auto build = [&] { return Seconds([&] { BuildMarkIndex(dat, ndx, session.markIndex, fake.platform); }); };
+  const auto build = [&] { return Seconds([&] { BuildMarkIndex(dat, ndx, session.dataset.markIndex, fake.platform); }); };
   // The Export command itself, the user answering Okay and the output name.
   const auto exportAll = [&] {
     fake.ui.messages.clear();

@@ -25,8 +25,8 @@
 #include "bench_options.hpp"
 #include "bench_timing.hpp"
 #include "dataset_generator.hpp"
-#include "export/mark_record.hpp"
-#include "export/parse_description.hpp"
+#include "export/parser/mark_record.hpp"
+#include "export/parser/parse_description.hpp"
 #include "fakes/fakes.hpp"
 
 namespace benchlog::bench {
@@ -53,7 +53,7 @@ struct ParseOutcome {
 // The export's loop over the Descriptions among `lines`: a line starting with "1" opens one whose
 // first line is the next. The PIDs read must be `pids` in order (when `pids` is not empty).
 void ParseLoop(const std::vector<std::string_view>& lines, const std::vector<std::string>& pids,
-               const std::string& support, ParseOutcome& outcome) {
+               SupportFiles& support, ParseOutcome& outcome) {
   MarkRecord record;
   for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
     if (lines[i].empty() || lines[i].front() != '1') continue;
@@ -71,7 +71,7 @@ void ParseLoop(const std::vector<std::string_view>& lines, const std::vector<std
 // The file read block by block: each block is cut before its last header line (which begins the
 // next block), so that it holds whole Descriptions; a Description longer than a block makes the
 // buffer grow.
-ParseOutcome ParseStreamed(const std::string& dat, const std::vector<std::string>& pids, const std::string& support) {
+ParseOutcome ParseStreamed(const std::string& dat, const std::vector<std::string>& pids, SupportFiles& support) {
   std::FILE* file = std::fopen(dat.c_str(), "rb");
   if (!file) throw std::runtime_error("cannot open " + dat);
   ParseOutcome outcome;
@@ -100,7 +100,7 @@ ParseOutcome ParseStreamed(const std::string& dat, const std::vector<std::string
 }
 
 // The whole file read into memory at once and cut into lines, then the loop.
-double ParseWhole(const std::string& dat, const std::string& support) {
+double ParseWhole(const std::string& dat, SupportFiles& support) {
   return Seconds([&] {
     const std::string text = ReadWholeFile(dat);
     std::vector<std::string_view> lines;
@@ -110,7 +110,11 @@ double ParseWhole(const std::string& dat, const std::string& support) {
   });
 }
 
-std::string SupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }
+SupportFiles& SourceSupport() {
+  static SupportFiles files;
+  files.Refresh(std::string(BENCHLOG_SOURCE_DIR) + "/support/", {});
+  return files;
+}
 
 // --parse-only N: the file of an earlier run read once and parsed N times, for a profiler.
 int ParseOnly(const std::string& folder, int runs) {
@@ -119,7 +123,7 @@ int ParseOnly(const std::string& folder, int runs) {
   SplitLines(text, lines);
   for (int i = 0; i < runs; ++i) {
     ParseOutcome outcome;
-    const double seconds = Seconds([&] { ParseLoop(lines, {}, SupportPath(), outcome); });
+    const double seconds = Seconds([&] { ParseLoop(lines, {}, SourceSupport(), outcome); });
     std::printf("%zu Descriptions: parse %.3f ms\n", outcome.descriptions, seconds * 1000);
   }
   return 0;
@@ -148,7 +152,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   double loop = 1e300;
   const double streamed = Best(3, [&] {
     return Seconds([&] {
-      outcome = ParseStreamed(dat, made.pids, SupportPath());
+      outcome = ParseStreamed(dat, made.pids, SourceSupport());
       loop = std::min(loop, outcome.loopSeconds);
     });
   });
@@ -156,7 +160,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
     throw std::runtime_error("parse: " + std::to_string(outcome.descriptions) + " Descriptions, " +
                              std::to_string(outcome.failures) + " not found, " +
                              std::to_string(outcome.pidMismatches) + " PIDs not the generator's");
-  const double whole = Best(3, [&] { return ParseWhole(dat, SupportPath()); });
+  const double whole = Best(3, [&] { return ParseWhole(dat, SourceSupport()); });
 
   std::printf("%-38s %10s    %8s\n", "Operation", "figure", "to build");
   Report("BuildMarkIndex", build, build);

@@ -3,14 +3,14 @@
 #include <cstdlib>
 
 #include "app/configuration_file.hpp"
-#include "app/dataset_path.hpp"
+#include "session/dataset_paths.hpp"
 #include "app/frm_about.hpp"
 #include "app/menu_tree.hpp"
 #include "app/recent_files.hpp"
 #include "common/files.hpp"
 #include "common/paths.hpp"
 #include "dataset/load_dataset_index.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -32,28 +32,28 @@ void ChooseColor(Platform& platform, const char* title, const char* key, std::ui
 }  // namespace
 
 void OpenDataset(Session& session, Platform& platform, const std::string& path) {
-  session.DatFile = LowerCaseDatasetPath(path);
-  AddToMRUList(session, platform.settings, session.DatFile);
-  session.DatFilePath = FolderOf(session.DatFile);
-  platform.settings.SaveSetting("Settings", "LastDatFullName", session.DatFile);
-  platform.settings.SaveSetting("Settings", "LastDatDirectory", session.DatFilePath);
-  platform.settings.SaveSetting("Settings", "PhotoDir", session.DatFilePath);
+  session.dataset.DatFile = LowerCaseDatasetPath(path);
+  AddToMRUList(session, platform.settings, session.dataset.DatFile);
+  session.dataset.DatFilePath = FolderOf(session.dataset.DatFile);
+  platform.settings.SaveSetting("Settings", "LastDatFullName", session.dataset.DatFile);
+  platform.settings.SaveSetting("Settings", "LastDatDirectory", session.dataset.DatFilePath);
+  platform.settings.SaveSetting("Settings", "PhotoDir", session.dataset.DatFilePath);
   LoadDatasetIndex(session, platform);
 }
 
 void mnuOpenDat(Session& session, Platform& platform) {
-  session.DatFilePath = FolderOf(platform.settings.GetSetting("Settings", "LastDatFullName", DefaultFolder()));
+  session.dataset.DatFilePath = FolderOf(platform.settings.GetSetting("Settings", "LastDatFullName", DefaultFolder()));
   FileDialogRequest request;
   request.filter = "Data Files (*.dat)|*.dat";
   request.title = "Open Dat File";
-  request.initDir = session.DatFilePath;
+  request.initDir = session.dataset.DatFilePath;
   request.defaultExt = "dat";
   OpenDataset(session, platform, platform.ui.FileDialog(request));
 }
 
 void mnuFileMRUItem_Click(Session& session, Platform& platform, int n) {
-  if (n < 1 || n > static_cast<int>(session.MRUList.size())) return;
-  OpenDataset(session, platform, session.MRUList[static_cast<std::size_t>(n - 1)]);
+  if (n < 1 || n > static_cast<int>(session.shell.MRUList.size())) return;
+  OpenDataset(session, platform, session.shell.MRUList[static_cast<std::size_t>(n - 1)]);
 }
 
 void mnuOpenCounty(Session& session, Platform& platform) {
@@ -62,21 +62,21 @@ void mnuOpenCounty(Session& session, Platform& platform) {
   request.title = "Open County File";
   request.fileName = platform.settings.GetSetting("Settings", "LastCountyFullName", "");
   request.initDir = platform.settings.GetSetting("Settings", "LastCountyDirectory", DefaultFolder());
-  session.CtyFile = platform.ui.FileDialog(request);
+  session.shell.CtyFile = platform.ui.FileDialog(request);
   frmView& view = ViewForm(session, platform);
-  view.txtViewFile = ReadWholeFile(session.CtyFile);
-  view.Caption = "County File - " + session.CtyFile;
+  view.txtViewFile = ReadWholeFile(session.shell.CtyFile);
+  view.Caption = "County File - " + session.shell.CtyFile;
   platform.ui.ShowModeless(view);
-  platform.settings.SaveSetting("Settings", "LastCountyFullName", session.CtyFile);
-  platform.settings.SaveSetting("Settings", "LastCountyDirectory", FolderOf(session.CtyFile));
+  platform.settings.SaveSetting("Settings", "LastCountyFullName", session.shell.CtyFile);
+  platform.settings.SaveSetting("Settings", "LastCountyDirectory", FolderOf(session.shell.CtyFile));
 }
 
 void mnuSetBackColor(Session& session, Platform& platform) {
-  ChooseColor(platform, "Select Background Color", "BackColor", session.backColor);
+  ChooseColor(platform, "Select Background Color", "BackColor", session.shell.backColor);
 }
 
 void mnuSetForColor(Session& session, Platform& platform) {
-  ChooseColor(platform, "Select Foreground Color", "ForeColor", session.foreColor);
+  ChooseColor(platform, "Select Foreground Color", "ForeColor", session.shell.foreColor);
 }
 
 void mnuBenchlogHlp(Session& session, Platform& platform) {
@@ -89,18 +89,6 @@ void mnuHelpAbout(Session& session, Platform& platform) {
   platform.ui.ShowModal(session.forms.Get<FrmAbout>());
 }
 
-void mnuExit(Session& session, Platform&) { session.quitRequested = true; }
-
-void RegisterAppCommands(CommandTable& table) {
-  table.Register("mnuOpenDat", mnuOpenDat);
-  table.Register("mnuOpenCounty", mnuOpenCounty);
-  for (int n = 1; n <= kMaxRecentFiles; ++n)
-    table.Register(MruItemName(n), [n](Session& s, Platform& p) { mnuFileMRUItem_Click(s, p, n); });
-  table.Register("mnuSetBackColor", mnuSetBackColor);
-  table.Register("mnuSetForColor", mnuSetForColor);
-  table.Register("mnuBenchlogHlp", mnuBenchlogHlp);
-  table.Register("mnuHelpAbout", mnuHelpAbout);
-  table.Register("mnuExit", mnuExit);
-}
+void mnuExit(Session& session, Platform&) { session.shell.quitRequested = true; }
 
 }  // namespace benchlog

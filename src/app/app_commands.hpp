@@ -3,11 +3,10 @@
 // and exit.
 #include <string>
 
-#include "app/command_table.hpp"
+#include "platform/platform.hpp"
+#include "session/session.hpp"
 
 namespace benchlog {
-
-void RegisterAppCommands(CommandTable& table);
 
 void mnuOpenDat(Session& session, Platform& platform);
 // Shows a county file in the viewer, without blocking.

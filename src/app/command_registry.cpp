@@ -1,21 +1,78 @@
+#include "app/command_registry.hpp"
+
+#include <stdexcept>
+#include <utility>
+
 #include "app/app_commands.hpp"
-#include "app/command_table.hpp"
+#include "app/menu_tree.hpp"
+#include "app/recent_files.hpp"
 #include "dataset/dataset_commands.hpp"
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
+#include "view/class_filter.hpp"
 #include "view/view_by_class.hpp"
 
 namespace benchlog {
+namespace {
 
-// Each subsystem registers its own menu commands here; a name that no subsystem registers yet
-// answers with the not-yet-available message.
+void RegisterAppCommands(CommandTable& table) {
+  table.Register("mnuOpenDat", mnuOpenDat);
+  table.Register("mnuOpenCounty", mnuOpenCounty);
+  for (int n = 1; n <= kMaxRecentFiles; ++n)
+    table.Register(MruItemName(n), [n](Session& s, Platform& p) { mnuFileMRUItem_Click(s, p, n); });
+  table.Register("mnuSetBackColor", mnuSetBackColor);
+  table.Register("mnuSetForColor", mnuSetForColor);
+  table.Register("mnuBenchlogHlp", mnuBenchlogHlp);
+  table.Register("mnuHelpAbout", mnuHelpAbout);
+  table.Register("mnuExit", mnuExit);
+}
+
+void RegisterDatasetCommands(CommandTable& table) {
+  table.Register("mnuReindex", mnuReindex);
+  table.Register("mnuCompDatFile", mnuCompDatFile);
+  table.Register("mnuFileNew", mnuFileNew);
+  table.Register("mnuCombineDat", mnuCombineDat);
+  table.Register("mnuDelDesc", mnuDelDesc);
+  table.Register("mnuViewFileIndex", mnuViewFileIndex);
+}
+
+void RegisterViewCommands(CommandTable& table) {
+  const std::pair<const char*, int> classes[] = {
+      {"mnuAllHorizontal", kAllHorizontal}, {"mnuHorizFirst", kHorizontalFirstAndBetter},
+      {"mnuAllVert", kAllVertical},         {"mnuVertFirst", kVerticalFirstOnly},
+      {"mnuBdyMons", kBoundaryMonuments},   {"mnuLandMarks", kLandmarks},
+      {"mnuViewCors", kCors},               {"mnuViewFBN", kBaseNetwork},
+      {"mnuViewPacs", kAirport},            {"mnuViewTidal", kTidal},
+      {"mnuViewGPS", kGpsSuitable},         {"mnuViewHtMod", kHeightMod},
+      {"mnuViewBMsNotPos", kRecoveredNotPositioned}, {"mnuViewRecNotPhoto", kRecoveredNotPhotographed},
+  };
+  for (const auto& [name, code] : classes)
+    table.Register(name, [code = code](Session& s, Platform& p) { ViewDescriptionsByClass(s, p, code); });
+  table.Register("mnuLocByPid", mnuLocByPid);
+}
+
+void RegisterExportCommands(CommandTable& table) {
+  table.Register("mnuExport", mnuExport);
+  table.Register("mnuViewHcl", mnuViewHcl);
+  table.Register("mnuViewVcl", mnuViewVcl);
+}
+
+bool InMenuTree(const std::string& name) {
+  for (const auto& entry : MainMenuTree())
+    if (entry.name == name) return true;
+  return false;
+}
+
+}  // namespace
+
 CommandTable BuildCommandTable() {
   CommandTable table;
   RegisterAppCommands(table);
   RegisterDatasetCommands(table);
-  RegisterDatasetFileCommands(table);
   RegisterViewCommands(table);
   RegisterExportCommands(table);
+  for (const auto& name : table.Names())
+    if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;
 }
 

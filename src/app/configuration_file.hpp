@@ -2,7 +2,7 @@
 // CheckLoadFiles: reads "Benchlog.ini" beside the program and tests that the support files exist.
 #include <string>
 
-#include "app/configuration.hpp"
+#include "session/configuration.hpp"
 #include "platform/platform.hpp"
 
 namespace benchlog {

@@ -43,13 +43,13 @@ bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& place
 
   InitMenuState(session.menu);
   session.config.helpFile = JoinPath(platform.paths.appPath, "Benchlog.chm");
-  session.caption = std::string(kAppTitle) + " Version " + VersionText();
+  session.shell.caption = std::string(kAppTitle) + " Version " + VersionText();
   IgnoringFailures([&] {
-    session.foreColor = static_cast<std::uint32_t>(Val(settings.GetSetting("Settings", "ForeColor", "0")));
-    session.backColor = static_cast<std::uint32_t>(Val(settings.GetSetting("Settings", "BackColor", "16777215")));
+    session.shell.foreColor = static_cast<std::uint32_t>(Val(settings.GetSetting("Settings", "ForeColor", "0")));
+    session.shell.backColor = static_cast<std::uint32_t>(Val(settings.GetSetting("Settings", "BackColor", "16777215")));
   });
-  session.DatFile = settings.GetSetting("Settings", "LastDatFullName", "");
-  session.DatFilePath = settings.GetSetting("Settings", "LastDatDirectory", "");
+  session.dataset.DatFile = settings.GetSetting("Settings", "LastDatFullName", "");
+  session.dataset.DatFilePath = settings.GetSetting("Settings", "LastDatDirectory", "");
 
   std::string missing;
   IgnoringFailures([&] { missing = CheckLoadFiles(platform, session.config); });
@@ -59,7 +59,7 @@ bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& place
                        MsgIcon::Critical, kAppTitle);
     return false;
   }
-  if (!session.DatFile.empty()) IgnoringFailures([&] { LoadDatasetIndex(session, platform); });
+  if (!session.dataset.DatFile.empty()) IgnoringFailures([&] { LoadDatasetIndex(session, platform); });
   session.menu["mnuLatLoninTxt"].visible = false;
   IgnoringFailures([&] { LoadMRUList(session, settings); });
   return true;

@@ -2,7 +2,7 @@
 // frmMain's start and end: the load step, the splash wait and the closing step.
 #include <string>
 
-#include "app/session.hpp"
+#include "session/session.hpp"
 #include "platform/platform.hpp"
 #include "platform/window_placement.hpp"
 

@@ -123,13 +123,8 @@ const std::vector<MenuEntry>& MainMenuTree() {
 std::string MruItemName(int n) { return "mnuFileMRUItem(" + std::to_string(n) + ")"; }
 
 void InitMenuState(MenuState& menu) {
-  for (const auto& entry : MainMenuTree()) {
-    auto& item = menu[entry.name];
-    item.caption = entry.caption;
-    item.visible = entry.initiallyVisible;
-    item.enabled = true;
-    item.checked = false;
-  }
+  for (const auto& entry : MainMenuTree())
+    menu.Declare(entry.name, MenuItemState{entry.caption, entry.initiallyVisible, true, false});
 }
 
 }  // namespace benchlog

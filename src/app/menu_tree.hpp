@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/menu_state.hpp"
+#include "session/menu_state.hpp"
 
 namespace benchlog {
 

@@ -6,16 +6,16 @@
 namespace benchlog {
 
 void LoadMRUList(Session& session, const SettingsStore& settings) {
-  session.MRUList.clear();
+  session.shell.MRUList.clear();
   for (int n = 1; n <= kMaxRecentFiles; ++n) {
     std::string name = settings.GetSetting("MRUList", "Name" + std::to_string(n), "");
-    if (!name.empty()) session.MRUList.push_back(std::move(name));
+    if (!name.empty()) session.shell.MRUList.push_back(std::move(name));
   }
   RefreshMRUMenu(session);
 }
 
 void AddToMRUList(Session& session, SettingsStore& settings, const std::string& path) {
-  auto& list = session.MRUList;
+  auto& list = session.shell.MRUList;
   const std::string lower = LCase(path);
   for (auto entry = list.begin(); entry != list.end(); ++entry) {
     if (LCase(*entry) == lower) {
@@ -30,11 +30,11 @@ void AddToMRUList(Session& session, SettingsStore& settings, const std::string& 
 }
 
 void RefreshMRUMenu(Session& session) {
-  const auto count = static_cast<int>(session.MRUList.size());
+  const auto count = static_cast<int>(session.shell.MRUList.size());
   for (int n = 1; n <= kMaxRecentFiles; ++n) {
     auto& item = session.menu[MruItemName(n)];
     item.visible = n <= count;
-    if (n <= count) item.caption = "&" + std::to_string(n) + " " + session.MRUList[static_cast<std::size_t>(n - 1)];
+    if (n <= count) item.caption = "&" + std::to_string(n) + " " + session.shell.MRUList[static_cast<std::size_t>(n - 1)];
   }
   session.menu["mnuFileMRUSep"].visible = count > 0;
 }

@@ -3,7 +3,7 @@
 // "MRUList" as "Name1" to "Name8" and shown as entries of the File menu.
 #include <string>
 
-#include "app/session.hpp"
+#include "session/session.hpp"
 #include "platform/settings_store.hpp"
 
 namespace benchlog {

@@ -6,10 +6,10 @@
 #include "common/line_input.hpp"
 #include "common/paths.hpp"
 #include "common/runtime_failure.hpp"
-#include "dataset/dataset_paths.hpp"
+#include "session/dataset_paths.hpp"
 #include "dataset/dataset_text.hpp"
 #include "dataset/index_line_rules.hpp"
-#include "dataset/line_writer.hpp"
+#include "common/line_writer.hpp"
 #include "dataset/picture_folder.hpp"
 
 namespace benchlog {

@@ -8,7 +8,7 @@
 //           D+1 the sentinel.
 #include <string>
 
-#include "dataset/mark_index.hpp"
+#include "session/mark_index.hpp"
 #include "platform/platform.hpp"
 
 namespace benchlog {

@@ -7,9 +7,9 @@
 #include "common/line_input.hpp"
 #include "common/paths.hpp"
 #include "common/runtime_failure.hpp"
-#include "dataset/dataset_paths.hpp"
+#include "session/dataset_paths.hpp"
 #include "dataset/dataset_text.hpp"
-#include "dataset/line_writer.hpp"
+#include "common/line_writer.hpp"
 
 namespace benchlog {
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 // The dataset's menu commands.
-#include "app/command_table.hpp"
+#include "platform/platform.hpp"
+#include "session/session.hpp"
 
 namespace benchlog {
 
@@ -8,8 +9,5 @@ namespace benchlog {
 // Index", "Please wait...", one step per 5000 bytes) and shows "Index file created.". With no
 // dataset open it says "No mkdata file open!"; a dataset that has gone fails with "File not found".
 void mnuReindex(Session& session, Platform& platform);
-
-// Registers "mnuReindex".
-void RegisterDatasetCommands(CommandTable& table);
 
 }  // namespace benchlog

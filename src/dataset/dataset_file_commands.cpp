@@ -1,6 +1,6 @@
 #include "dataset/dataset_file_commands.hpp"
 
-#include "app/dataset_path.hpp"
+#include "session/dataset_paths.hpp"
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/paths.hpp"
@@ -8,11 +8,11 @@
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/compress_dataset.hpp"
-#include "dataset/dataset_paths.hpp"
+#include "session/dataset_paths.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/frm_get_file.hpp"
-#include "view/frm_select_points.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_select_points.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -30,11 +30,11 @@ void ReindexBehindProgress(Session& session, Platform& platform, const char* lab
   Progress& progress = platform.dlgProcessing;
   progress.lblProcessing = label;
   progress.lblInfo = "Please wait...";
-  progress.max = BarMaximum(session.DatFile, 5000);
+  progress.max = BarMaximum(session.dataset.DatFile, 5000);
   progress.value = 1;
   progress.Show();
   platform.ui.DoEvents();
-  BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, platform);
+  BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, platform);
 }
 
 // Copies the files line by line into `target`, each line ended by CR LF.
@@ -50,7 +50,7 @@ void CopyLines(const std::vector<std::string>& sources, const std::string& targe
 }  // namespace
 
 void mnuCompDatFile(Session& session, Platform& platform) {
-  const std::string errorText = CompressDataset(session.DatFile, platform);
+  const std::string errorText = CompressDataset(session.dataset.DatFile, platform);
   ReindexBehindProgress(session, platform, "Reindexing file");
   platform.dlgProcessing.Hide();
   platform.ui.MsgBox(errorText.empty() ? "File Compressed!" : errorText);
@@ -61,24 +61,24 @@ void mnuFileNew(Session& session, Platform& platform) {
   request.save = true;
   request.filter = kDataFilter;
   request.title = "Create Dat File";
-  request.initDir = session.DatFilePath;
+  request.initDir = session.dataset.DatFilePath;
   request.defaultExt = "dat";
-  session.DatFile = LowerCaseDatasetPath(platform.ui.FileDialog(request));
-  session.DatFilePath = FolderOf(session.DatFile);
-  platform.settings.SaveSetting("Settings", "LastDatFullName", session.DatFile);
-  platform.settings.SaveSetting("Settings", "LastDatDirectory", session.DatFilePath);
-  platform.settings.SaveSetting("Settings", "PhotoDir", session.DatFilePath);
+  session.dataset.DatFile = LowerCaseDatasetPath(platform.ui.FileDialog(request));
+  session.dataset.DatFilePath = FolderOf(session.dataset.DatFile);
+  platform.settings.SaveSetting("Settings", "LastDatFullName", session.dataset.DatFile);
+  platform.settings.SaveSetting("Settings", "LastDatDirectory", session.dataset.DatFilePath);
+  platform.settings.SaveSetting("Settings", "PhotoDir", session.dataset.DatFilePath);
   SetDerivedPaths(session, platform.paths.appPath);
 
-  if (FileExists(session.DatFile)) {
+  if (FileExists(session.dataset.DatFile)) {
     if (platform.ui.MsgBox("File exists.  Overwrite?", MsgButtons::YesNo, MsgIcon::None, "Create Mkdata File") ==
         MsgResult::No)
       return;
-    DeleteFileIfExists(session.DatFile);
-    DeleteFileIfExists(session.IndexFile);
-    session.markIndex.Clear();
+    DeleteFileIfExists(session.dataset.DatFile);
+    DeleteFileIfExists(session.dataset.IndexFile);
+    session.dataset.markIndex.Clear();
   }
-  session.caption = session.DatFile;
+  session.shell.caption = session.dataset.DatFile;
   session.menu["mnuViewHcl"].enabled = false;
   session.menu["mnuViewVcl"].enabled = false;
   session.menu["mnuViewError"].enabled = false;
@@ -95,7 +95,7 @@ void mnuCombineDat(Session& session, Platform& platform) {
 
   auto& dialog = session.forms.Get<FrmGetFile>();
   dialog.caption = "Select .dat Files to Combine";
-  if (dialog.folder.empty()) dialog.SetFolder(session.DatFilePath.empty() ? FolderOf(combined) : session.DatFilePath);
+  if (dialog.folder.empty()) dialog.SetFolder(session.dataset.DatFilePath.empty() ? FolderOf(combined) : session.dataset.DatFilePath);
   dialog.Tag = "Canceled";
   platform.ui.ShowModal(dialog);
   platform.ui.Hide(dialog);
@@ -112,7 +112,7 @@ void mnuDelDesc(Session& session, Platform& platform) {
   auto& list = session.forms.Get<FrmSelectPoints>();
   list.Clear();
   list.caption = "Select Points to Delete";
-  for (const auto& element : session.markIndex.Elements())
+  for (const auto& element : session.dataset.markIndex.Elements())
     if (!IsBlank(element)) list.AddItem(SelectionItemOfRecord(element));
   list.Tag = "Canceled";
   platform.ui.ShowModal(list);
@@ -142,7 +142,7 @@ void mnuDelDesc(Session& session, Platform& platform) {
     // far staying in the dataset.
     if (deleted > kMaxDeletedPids) throw SubscriptOutOfRange();
     const std::string error =
-        BlankDescription(session.markIndex, session.DatFile, FrmSelectPoints::PidOfItem(list.lstPoints[i]));
+        BlankDescription(session.dataset.markIndex, session.dataset.DatFile, FrmSelectPoints::PidOfItem(list.lstPoints[i]));
     if (!error.empty()) {
       progress.Hide();
       platform.ui.MsgBox(error);
@@ -153,7 +153,7 @@ void mnuDelDesc(Session& session, Platform& platform) {
     progress.Refresh();
   }
 
-  const std::string errorText = CompressDataset(session.DatFile, platform);
+  const std::string errorText = CompressDataset(session.dataset.DatFile, platform);
   ReindexBehindProgress(session, platform, "Creating Index");
   platform.ui.SetHourglass(false);
   if (!errorText.empty()) {
@@ -167,7 +167,7 @@ void mnuDelDesc(Session& session, Platform& platform) {
 
 void mnuViewFileIndex(Session& session, Platform& platform) {
   frmView& view = ViewForm(session, platform);
-  view.txtViewFile = ReadWholeFile(session.IndexFile);
+  view.txtViewFile = ReadWholeFile(session.dataset.IndexFile);
   const int oldSize = view.FontSize;
   view.FontSize = 8;
   view.Tag = "ndx";
@@ -175,14 +175,6 @@ void mnuViewFileIndex(Session& session, Platform& platform) {
   view.Caption = "File Index";
   platform.ui.ShowModal(view);
   view.FontSize = oldSize;
-}
-
-void RegisterDatasetFileCommands(CommandTable& table) {
-  table.Register("mnuCompDatFile", mnuCompDatFile);
-  table.Register("mnuFileNew", mnuFileNew);
-  table.Register("mnuCombineDat", mnuCombineDat);
-  table.Register("mnuDelDesc", mnuDelDesc);
-  table.Register("mnuViewFileIndex", mnuViewFileIndex);
 }
 
 }  // namespace benchlog

@@ -5,7 +5,7 @@
 // Both return their failure as a text; "" means success.
 #include <string>
 
-#include "dataset/mark_index.hpp"
+#include "session/mark_index.hpp"
 
 namespace benchlog {
 

@@ -4,7 +4,7 @@
 // landmark rule applied when a Description is finished.
 #include <string_view>
 
-#include "dataset/index_record.hpp"
+#include "session/index_record.hpp"
 
 namespace benchlog {
 

@@ -4,8 +4,8 @@
 
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
-#include "dataset/dataset_paths.hpp"
-#include "dataset/index_record.hpp"
+#include "session/dataset_paths.hpp"
+#include "session/index_record.hpp"
 
 namespace benchlog {
 namespace {
@@ -18,9 +18,9 @@ bool IndexIsStale(const MarkIndex& markIndex, std::uint64_t datasetLength) {
 }
 
 void EnableListingCommands(Session& session) {
-  session.menu["mnuViewHcl"].enabled = FileExists(session.HclFile);
-  session.menu["mnuViewVcl"].enabled = FileExists(session.VclFile);
-  session.menu["mnuViewError"].enabled = FileExists(session.ErrFile);
+  session.menu["mnuViewHcl"].enabled = FileExists(session.outputs.HclFile);
+  session.menu["mnuViewVcl"].enabled = FileExists(session.outputs.VclFile);
+  session.menu["mnuViewError"].enabled = FileExists(session.outputs.ErrFile);
 }
 
 }  // namespace
@@ -29,23 +29,23 @@ bool LoadDatasetIndex(Session& session, Platform& platform) {
   try {
     SetDerivedPaths(session, platform.paths.appPath);
     bool madeNew = false;
-    if (FileExists(session.IndexFile) && FileExists(session.DatFile)) {
-      LoadIndexFile(session.IndexFile, session.markIndex);
-      if (IndexIsStale(session.markIndex, FileLength(session.DatFile))) {
-        BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, platform);
+    if (FileExists(session.dataset.IndexFile) && FileExists(session.dataset.DatFile)) {
+      LoadIndexFile(session.dataset.IndexFile, session.dataset.markIndex);
+      if (IndexIsStale(session.dataset.markIndex, FileLength(session.dataset.DatFile))) {
+        BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, platform);
         platform.dlgProcessing.Hide();
         platform.ui.MsgBox("Index file created.");
         madeNew = true;
       }
-    } else if (!FileExists(session.DatFile)) {
+    } else if (!FileExists(session.dataset.DatFile)) {
       return false;
     } else {
-      BuildMarkIndexBehindProgress("Creating index...", session.DatFile, session.IndexFile, session.markIndex,
+      BuildMarkIndexBehindProgress("Creating index...", session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex,
                                    platform);
       platform.ui.MsgBox("Index file created.");
       madeNew = true;
     }
-    session.caption = session.DatFile;
+    session.shell.caption = session.dataset.DatFile;
     EnableListingCommands(session);
     return madeNew;
   } catch (const std::exception& failure) {

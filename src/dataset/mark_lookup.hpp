@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "dataset/mark_index.hpp"
+#include "session/mark_index.hpp"
 
 namespace benchlog {
 

@@ -10,9 +10,9 @@
 #include "dataset/description_file.hpp"
 #include "export/export_files.hpp"
 #include "export/export_forms.hpp"
-#include "export/text_blocks.hpp"
-#include "view/frm_select_points.hpp"
-#include "view/frm_view.hpp"
+#include "dataset/text_blocks.hpp"
+#include "session/frm_select_points.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -37,7 +37,7 @@ bool SelectedDescriptions(Session& session, Platform& platform, std::string& tex
   FrmSelectPoints& list = session.forms.Get<FrmSelectPoints>();
   list.Clear();
   list.caption = "Select Point(s) to export:";
-  for (const auto& element : session.markIndex.Elements()) list.AddItem(SelectionItemOfRecord(element));
+  for (const auto& element : session.dataset.markIndex.Elements()) list.AddItem(SelectionItemOfRecord(element));
   list.Tag = "Canceled";
   platform.ui.ShowModal(list);
   platform.ui.Hide(list);
@@ -47,13 +47,13 @@ bool SelectedDescriptions(Session& session, Platform& platform, std::string& tex
   for (std::size_t k = 0; k < pids.size() && k < kMaxExportedPids; ++k) {
     if (pids[k].empty()) break;
     std::string description;
-    if (GetDescription(session.markIndex, session.DatFile, pids[k], description).empty()) text += description;
+    if (GetDescription(session.dataset.markIndex, session.dataset.DatFile, pids[k], description).empty()) text += description;
   }
   return true;
 }
 
 void RunExportCommand(Session& session, Platform& platform) {
-  if (!FileExists(session.DatFile)) {
+  if (!FileExists(session.dataset.DatFile)) {
     platform.ui.MsgBox("No mkdata file open!");
     return;
   }
@@ -67,7 +67,7 @@ void RunExportCommand(Session& session, Platform& platform) {
   std::unique_ptr<TextBlocks> text;
   std::string chosen;
   if (!options.optSelectedSta) {
-    text = std::make_unique<TextBlocks>(TextFile{session.DatFile});
+    text = std::make_unique<TextBlocks>(TextFile{session.dataset.DatFile});
   } else if (SelectedDescriptions(session, platform, chosen)) {
     text = std::make_unique<TextBlocks>(chosen);
   } else {
@@ -82,7 +82,7 @@ void RunExportCommand(Session& session, Platform& platform) {
   FileDialogRequest request;
   request.save = true;
   request.title = "Choose Output File Name";
-  request.fileName = FileNameOf(WithoutExtension(session.DatFile));
+  request.fileName = FileNameOf(WithoutExtension(session.dataset.DatFile));
   request.initDir = platform.settings.GetSetting("Settings", "LastDatDirectory", "c:\\");
   const std::string outFileName = platform.ui.FileDialog(request);
 
@@ -124,17 +124,11 @@ void mnuExport(Session& session, Platform& platform) {
 }
 
 void mnuViewHcl(Session& session, Platform& platform) {
-  ViewListing(session, platform, session.HclFile, "Hcl File - ", "hcl", "Hcl file not found!");
+  ViewListing(session, platform, session.outputs.HclFile, "Hcl File - ", "hcl", "Hcl file not found!");
 }
 
 void mnuViewVcl(Session& session, Platform& platform) {
-  ViewListing(session, platform, session.VclFile, "Vcl File - ", "vcl", "File not found!");
-}
-
-void RegisterExportCommands(CommandTable& table) {
-  table.Register("mnuExport", mnuExport);
-  table.Register("mnuViewHcl", mnuViewHcl);
-  table.Register("mnuViewVcl", mnuViewVcl);
+  ViewListing(session, platform, session.outputs.VclFile, "Vcl File - ", "vcl", "File not found!");
 }
 
 }  // namespace benchlog

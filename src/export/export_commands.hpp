@@ -1,6 +1,7 @@
 #pragma once
 // The export's menu commands: Export, and viewing the horizontal and vertical listings.
-#include "app/command_table.hpp"
+#include "platform/platform.hpp"
+#include "session/session.hpp"
 
 namespace benchlog {
 
@@ -11,13 +12,10 @@ namespace benchlog {
 // ends the command; so do run-time failures, without a report.
 void mnuExport(Session& session, Platform& platform);
 
-// The last horizontal listing (session.HclFile) in the viewer at font size 8, captioned
+// The last horizontal listing (session.outputs.HclFile) in the viewer at font size 8, captioned
 // "Hcl File - " and the path; "Hcl file not found!" when it is missing.
 void mnuViewHcl(Session& session, Platform& platform);
-// The same for the vertical listing (session.VclFile), "Vcl File - "; "File not found!".
+// The same for the vertical listing (session.outputs.VclFile), "Vcl File - "; "File not found!".
 void mnuViewVcl(Session& session, Platform& platform);
-
-// Registers "mnuExport", "mnuViewHcl" and "mnuViewVcl".
-void RegisterExportCommands(CommandTable& table);
 
 }  // namespace benchlog

@@ -10,7 +10,7 @@
 #include "export/export_forms.hpp"
 #include "export/export_names.hpp"
 #include "export/export_output.hpp"
-#include "export/find_descriptions.hpp"
+#include "dataset/find_descriptions.hpp"
 #include "export/listing_outputs.hpp"
 #include "export/mark_values.hpp"
 #include "export/parsed_marks.hpp"
@@ -35,7 +35,7 @@ ExportSetup SetupOf(const Session& session, const Platform& platform, const frmO
   // Elevations in feet are made by the vertical listing itself: the export's own elevation factor
   // stays 1 whatever the buttons say, and the listing multiplies by it all the same.
   setup.elevationFactor = 1;
-  setup.datasetFolder = session.DatFilePath;
+  setup.datasetFolder = session.dataset.DatFilePath;
   return setup;
 }
 
@@ -68,16 +68,17 @@ void ShowProgress(Progress& progress) {
 
 void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, const std::string& OutFileName,
                std::string& ErrMsg) {
+  session.supportFiles.Refresh(platform.paths.supportPath, platform.clock.Now());
   const frmOutputOptions& options = OutputOptionsForm(session, platform);
   const frmCDT& cdt = CdtForm(session, platform);
 
   const ExportNames names = ExportNamesOf(OutFileName);
-  session.HclFile = names.hcl;
-  session.VclFile = names.vcl;
-  session.SA6File = names.sa6;
-  session.ErrFile = names.err;
-  session.strDBName = names.mdb;
-  session.OutFilePath = FolderOf(OutFileName);
+  session.outputs.HclFile = names.hcl;
+  session.outputs.VclFile = names.vcl;
+  session.outputs.SA6File = names.sa6;
+  session.outputs.ErrFile = names.err;
+  session.outputs.strDBName = names.mdb;
+  session.outputs.OutFilePath = FolderOf(OutFileName);
   const ExportSetup setup = SetupOf(session, platform, options, cdt);
 
   Progress& progress = platform.dlgProcessing;
@@ -98,7 +99,7 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
 
   const PictureFolder pictures(setup.datasetFolder);
   MarkValues values;
-  ParsedMarks marks(strMkData, platform.paths.supportPath);
+  ParsedMarks marks(strMkData, session.supportFiles);
   for (std::size_t i = 1; i <= count; ++i) {
     progress.value = static_cast<int>(i);
     if (i % refreshEvery == 0 || i == count) progress.Refresh();

@@ -2,8 +2,8 @@
 // ExportFiles: the export's one pass over a text of Descriptions into the outputs ticked in
 // frmOutputOptions (read as the dialogs stand when it runs).
 #include <string>
-#include "app/session.hpp"
-#include "export/text_blocks.hpp"
+#include "session/session.hpp"
+#include "dataset/text_blocks.hpp"
 #include "platform/platform.hpp"
 
 namespace benchlog {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "export/mark_record.hpp"
+#include "export/parser/mark_record.hpp"
 #include "export/mark_values.hpp"
 
 namespace benchlog {

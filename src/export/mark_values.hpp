@@ -11,7 +11,7 @@
 #include <string>
 
 #include "dataset/picture_folder.hpp"
-#include "export/mark_record.hpp"
+#include "export/parser/mark_record.hpp"
 
 namespace benchlog {
 

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "export/parse_description.hpp"
+#include "export/parser/parse_description.hpp"
 
 #if defined(__x86_64__) || defined(__i386__)
 #include <immintrin.h>
@@ -31,8 +31,8 @@ void WaitUntil(Done&& done) {
 
 }  // namespace
 
-ParsedMarks::ParsedMarks(TextBlocks& text, const std::string& supportPath)
-    : supportPath_(supportPath), thread_([this, &text] { Run(text); }) {}
+ParsedMarks::ParsedMarks(TextBlocks& text, SupportFiles& support)
+    : support_(support), thread_([this, &text] { Run(text); }) {}
 
 ParsedMarks::~ParsedMarks() {
   stop_ = true;
@@ -59,7 +59,7 @@ bool ParsedMarks::TryParse(Slot& slot) {
   try {
     ClearMarkRecord(slot.mark.record);
     std::string parseError;  // every Description found has at least its first line
-    ParseDescription(slot.mark.pid, slot.lines, 0, ParseGroups{}, parseError, slot.mark.record, supportPath_);
+    ParseDescription(slot.mark.pid, slot.lines, 0, ParseGroups{}, parseError, slot.mark.record, support_);
   } catch (...) {
     slot.failure = std::current_exception();
   }

@@ -13,9 +13,10 @@
 #include <thread>
 #include <vector>
 
-#include "export/find_descriptions.hpp"
-#include "export/mark_record.hpp"
-#include "export/text_blocks.hpp"
+#include "dataset/find_descriptions.hpp"
+#include "export/parser/mark_record.hpp"
+#include "dataset/text_blocks.hpp"
+#include "support_files/support_files.hpp"
 
 namespace benchlog {
 
@@ -28,8 +29,8 @@ struct ParsedMark {
 class ParsedMarks {
  public:
   // Starts on `text` from where it stands; `text` must outlive this object, and nothing else may
-  // use it meanwhile. `supportPath` as for ParseDescription.
-  ParsedMarks(TextBlocks& text, const std::string& supportPath);
+  // use it meanwhile. `support` as for ParseDescription.
+  ParsedMarks(TextBlocks& text, SupportFiles& support);
   // Stops the second thread, wherever it stands.
   ~ParsedMarks();
   ParsedMarks(const ParsedMarks&) = delete;
@@ -60,7 +61,7 @@ class ParsedMarks {
   // Parses the slot's Description if nobody has begun it; false when somebody has.
   bool TryParse(Slot& slot);
 
-  const std::string supportPath_;
+  SupportFiles& support_;
   const std::unique_ptr<Slot[]> slots_ = std::make_unique<Slot[]>(kAhead);
   std::atomic<std::size_t> taken_{0};  // marks handed out and done with, whose records may be reused
   std::atomic<bool> stop_{false};

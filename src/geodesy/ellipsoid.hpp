@@ -1,7 +1,7 @@
 #pragma once
 // The current ellipsoid: one record of a, e2 and ep2, filled once at start-up from "Benchlog.ini"
 // and read by every geodetic routine. There is no built-in default: the configuration decides.
-#include "app/configuration.hpp"
+#include "session/configuration.hpp"
 
 namespace benchlog {
 

@@ -7,8 +7,8 @@
 #include "common/text.hpp"
 #include "dataset/description_file.hpp"
 #include "view/class_filter.hpp"
-#include "view/frm_select_points.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_select_points.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -19,7 +19,7 @@ constexpr std::size_t kMaxViewedPids = 10000;
 void ShowDescriptions(Session& session, Platform& platform, const std::string& text, const std::string& pid) {
   frmView& view = ViewForm(session, platform);
   view.txtViewFile = text;
-  view.BackColor = session.backColor;
+  view.BackColor = session.shell.backColor;
   view.Caption = "View Description(s)";
   view.Tag = pid;
   view.placement.state = kMaximized;
@@ -44,10 +44,10 @@ void ViewDescriptionsByClass(Session& session, Platform& platform, int classCode
   auto& list = session.forms.Get<FrmSelectPoints>();
   list.Clear();
   list.caption = "Select Point(s) to View";
-  list.backColor = session.backColor;
-  list.foreColor = session.foreColor;
-  if (session.markIndex.Empty()) throw SubscriptOutOfRange();
-  for (const auto& element : session.markIndex.Elements())
+  list.backColor = session.shell.backColor;
+  list.foreColor = session.shell.foreColor;
+  if (session.dataset.markIndex.Empty()) throw SubscriptOutOfRange();
+  for (const auto& element : session.dataset.markIndex.Elements())
     if (PassesClassTest(element, classCode)) list.AddItem(SelectionItemOfRecord(element));
 
   list.Tag = "Canceled";
@@ -61,7 +61,7 @@ void ViewDescriptionsByClass(Session& session, Platform& platform, int classCode
   for (const auto& pid : pids) {
     if (pid.empty()) break;
     std::string description;
-    const std::string error = GetDescription(session.markIndex, session.DatFile, pid, description);
+    const std::string error = GetDescription(session.dataset.markIndex, session.dataset.DatFile, pid, description);
     if (!error.empty()) {
       platform.ui.MsgBox(error);
       return;
@@ -75,27 +75,12 @@ void mnuLocByPid(Session& session, Platform& platform) {
   const std::string pid = UCase(platform.ui.InputBox("Enter PID:", "Get Description by PID", ""));
   if (pid.empty()) return;
   std::string text;
-  const std::string error = GetDescription(session.markIndex, session.DatFile, pid, text);
+  const std::string error = GetDescription(session.dataset.markIndex, session.dataset.DatFile, pid, text);
   if (!error.empty()) {
     platform.ui.MsgBox(error);
     return;
   }
   ShowDescriptions(session, platform, text, pid);
-}
-
-void RegisterViewCommands(CommandTable& table) {
-  const std::pair<const char*, int> classes[] = {
-      {"mnuAllHorizontal", kAllHorizontal}, {"mnuHorizFirst", kHorizontalFirstAndBetter},
-      {"mnuAllVert", kAllVertical},         {"mnuVertFirst", kVerticalFirstOnly},
-      {"mnuBdyMons", kBoundaryMonuments},   {"mnuLandMarks", kLandmarks},
-      {"mnuViewCors", kCors},               {"mnuViewFBN", kBaseNetwork},
-      {"mnuViewPacs", kAirport},            {"mnuViewTidal", kTidal},
-      {"mnuViewGPS", kGpsSuitable},         {"mnuViewHtMod", kHeightMod},
-      {"mnuViewBMsNotPos", kRecoveredNotPositioned}, {"mnuViewRecNotPhoto", kRecoveredNotPhotographed},
-  };
-  for (const auto& [name, code] : classes)
-    table.Register(name, [code = code](Session& s, Platform& p) { ViewDescriptionsByClass(s, p, code); });
-  table.Register("mnuLocByPid", mnuLocByPid);
 }
 
 }  // namespace benchlog

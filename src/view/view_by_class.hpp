@@ -1,7 +1,8 @@
 #pragma once
 // The Descriptions menu: the marks of a class picked from a list and read together in the viewer,
 // and a Description fetched by its PID.
-#include "app/command_table.hpp"
+#include "platform/platform.hpp"
+#include "session/session.hpp"
 
 namespace benchlog {
 
@@ -12,8 +13,5 @@ void ViewDescriptionsByClass(Session& session, Platform& platform, int classCode
 
 // Asks "Enter PID:" and shows that mark's Description.
 void mnuLocByPid(Session& session, Platform& platform);
-
-// Registers the fourteen class commands and "mnuLocByPid".
-void RegisterViewCommands(CommandTable& table);
 
 }  // namespace benchlog

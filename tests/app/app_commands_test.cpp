@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/app_commands.hpp"
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "app/demo_dataset.hpp"
 #include "app/frm_about.hpp"
 #include "app/menu_tree.hpp"
@@ -18,7 +18,7 @@ using testing::TempFolder;
 struct CommandsTest : ::testing::Test {
   TempFolder app;
   FakePlatform fake{app.Path()};
-  Session session;
+  testing::TestSession session;
   CommandTable table = BuildCommandTable();
   CommandsTest() { InitMenuState(session.menu); }
   void Run(const std::string& name) { table.Run(name, session, fake.platform); }
@@ -62,12 +62,12 @@ TEST_F(CommandsTest, OpenDatAsksForADatasetAndRemembersIt) {
   EXPECT_EQ(dialog.defaultExt, "dat");
 
   const std::string path = app.Path() + "/data/site.dat";
-  EXPECT_EQ(session.DatFile, path);
-  EXPECT_EQ(session.DatFilePath, app.Path() + "/data/");
+  EXPECT_EQ(session.dataset.DatFile, path);
+  EXPECT_EQ(session.dataset.DatFilePath, app.Path() + "/data/");
   EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatFullName", ""), path);
   EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatDirectory", ""), app.Path() + "/data/");
   EXPECT_EQ(fake.settings.GetSetting("Settings", "PhotoDir", ""), app.Path() + "/data/");
-  EXPECT_EQ(session.MRUList, std::vector<std::string>{path});
+  EXPECT_EQ(session.shell.MRUList, std::vector<std::string>{path});
   EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 " + path);
 }
 
@@ -76,19 +76,19 @@ TEST_F(CommandsTest, DatasetPathIsKeptInLowerCaseWhereThatNamesTheSameFile) {
   app.Write("data/x", "");
   fake.ui.fileAnswers.push_back(app.Path() + "/data/NEW.DAT");
   Run("mnuOpenDat");
-  EXPECT_EQ(session.DatFile, app.Path() + "/data/new.dat");
+  EXPECT_EQ(session.dataset.DatFile, app.Path() + "/data/new.dat");
 
   // A folder with capitals: the lower-case form would name nothing, so the path keeps its case.
   app.Write("Field/Site.dat", "");
   fake.ui.fileAnswers.push_back(app.Path() + "/Field/Site.dat");
   Run("mnuOpenDat");
-  EXPECT_EQ(session.DatFile, app.Path() + "/Field/Site.dat");
+  EXPECT_EQ(session.dataset.DatFile, app.Path() + "/Field/Site.dat");
 }
 
 TEST_F(CommandsTest, CancelledOpenChangesNothing) {
   fake.ui.fileAnswers.push_back("");  // cancel
   Run("mnuOpenDat");
-  EXPECT_TRUE(session.DatFile.empty());
+  EXPECT_TRUE(session.dataset.DatFile.empty());
   EXPECT_TRUE(fake.ui.messages.empty());
   EXPECT_FALSE(fake.settings.Has("Settings", "LastDatFullName"));
 }
@@ -99,20 +99,20 @@ TEST_F(CommandsTest, RecentEntryReopensAndMovesToTop) {
   fake.ui.fileAnswers = {app.File("a.dat"), app.File("b.dat")};
   Run("mnuOpenDat");
   Run("mnuOpenDat");
-  ASSERT_EQ(session.MRUList.front(), app.File("b.dat"));
+  ASSERT_EQ(session.shell.MRUList.front(), app.File("b.dat"));
   Run("mnuFileMRUItem(2)");
-  EXPECT_EQ(session.DatFile, app.File("a.dat"));
-  EXPECT_EQ(session.MRUList, (std::vector<std::string>{app.File("a.dat"), app.File("b.dat")}));
+  EXPECT_EQ(session.dataset.DatFile, app.File("a.dat"));
+  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{app.File("a.dat"), app.File("b.dat")}));
   EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatFullName", ""), app.File("a.dat"));
 }
 
 TEST_F(CommandsTest, ColoursAreChosenAndKept) {
   fake.ui.colorAnswers = {std::uint32_t{0x0000FF}, std::nullopt};
   Run("mnuSetBackColor");
-  EXPECT_EQ(session.backColor, 255u);
+  EXPECT_EQ(session.shell.backColor, 255u);
   EXPECT_EQ(fake.settings.GetSetting("Settings", "BackColor", ""), "255");
   Run("mnuSetForColor");  // cancelled
-  EXPECT_EQ(session.foreColor, 0u);
+  EXPECT_EQ(session.shell.foreColor, 0u);
   EXPECT_FALSE(fake.settings.Has("Settings", "ForeColor"));
   EXPECT_EQ(fake.ui.colorTitles, (std::vector<std::string>{"Select Background Color", "Select Foreground Color"}));
 }
@@ -141,7 +141,7 @@ TEST_F(CommandsTest, AboutShowsItsTextsAndSystemInformation) {
 
 TEST_F(CommandsTest, ExitAsksTheWindowToClose) {
   Run("mnuExit");
-  EXPECT_TRUE(session.quitRequested);
+  EXPECT_TRUE(session.shell.quitRequested);
 }
 
 TEST(DemoDataset, FirstRunCopiesTheSampleOnce) {

@@ -13,7 +13,7 @@ using testing::TempFolder;
 struct LoadStepTest : ::testing::Test {
   TempFolder app;
   FakePlatform fake{app.Path()};
-  Session session;
+  testing::TestSession session;
   WindowPlacement placement;
 
   void WriteAllFiles(const std::string& ini = "ELLIPSOID A=6378137\r\nELLIPSOID E2=0.00669438002290\r\n") {
@@ -32,11 +32,11 @@ TEST_F(LoadStepTest, FirstRunDefaults) {
   EXPECT_EQ(placement.left, 0);
   EXPECT_EQ(placement.height, 4000);
   EXPECT_EQ(placement.width, 4000);
-  EXPECT_EQ(session.caption, "Benchlog Version 1.0.0");
-  EXPECT_EQ(session.foreColor, 0u);
-  EXPECT_EQ(session.backColor, 16777215u);
+  EXPECT_EQ(session.shell.caption, "Benchlog Version 1.0.0");
+  EXPECT_EQ(session.shell.foreColor, 0u);
+  EXPECT_EQ(session.shell.backColor, 16777215u);
   EXPECT_EQ(session.config.helpFile, app.Path() + "/Benchlog.chm");
-  EXPECT_TRUE(session.DatFile.empty());
+  EXPECT_TRUE(session.dataset.DatFile.empty());
   EXPECT_FALSE(session.menu["mnuLatLoninTxt"].visible);
   EXPECT_TRUE(session.menu["mnuExport"].visible);
   EXPECT_TRUE(session.menu["mnuExport"].enabled);
@@ -61,7 +61,7 @@ TEST_F(LoadStepTest, SavedStateIsRead) {
   EXPECT_EQ(placement.left, 300);
   EXPECT_EQ(placement.height, 9000);
   EXPECT_EQ(placement.width, 12000);
-  EXPECT_EQ(session.backColor, 255u);
+  EXPECT_EQ(session.shell.backColor, 255u);
   EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 /x/one.dat");
 }
 

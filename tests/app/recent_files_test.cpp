@@ -9,7 +9,7 @@ namespace {
 using testing::MemorySettings;
 
 struct RecentFilesTest : ::testing::Test {
-  Session session;
+  testing::TestSession session;
   MemorySettings settings;
   RecentFilesTest() { InitMenuState(session.menu); }
   std::vector<std::string> Visible() {
@@ -22,7 +22,7 @@ struct RecentFilesTest : ::testing::Test {
 
 TEST_F(RecentFilesTest, EmptyListHidesEntriesAndSeparator) {
   LoadMRUList(session, settings);
-  EXPECT_TRUE(session.MRUList.empty());
+  EXPECT_TRUE(session.shell.MRUList.empty());
   EXPECT_TRUE(Visible().empty());
   EXPECT_FALSE(session.menu["mnuFileMRUSep"].visible);
 }
@@ -32,16 +32,16 @@ TEST_F(RecentFilesTest, LoadKeepsNonEmptyNamesInOrder) {
   settings.SaveSetting("MRUList", "Name2", "");
   settings.SaveSetting("MRUList", "Name3", "/d/c.dat");
   LoadMRUList(session, settings);
-  EXPECT_EQ(session.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat"}));
+  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat"}));
   EXPECT_EQ(Visible(), (std::vector<std::string>{"&1 /d/a.dat", "&2 /d/c.dat"}));
   EXPECT_TRUE(session.menu["mnuFileMRUSep"].visible);
 }
 
 TEST_F(RecentFilesTest, NinthFilePushesTheOldestOut) {
   for (int n = 1; n <= 9; ++n) AddToMRUList(session, settings, "/d/f" + std::to_string(n) + ".dat");
-  ASSERT_EQ(session.MRUList.size(), 8u);
-  EXPECT_EQ(session.MRUList.front(), "/d/f9.dat");
-  EXPECT_EQ(session.MRUList.back(), "/d/f2.dat");
+  ASSERT_EQ(session.shell.MRUList.size(), 8u);
+  EXPECT_EQ(session.shell.MRUList.front(), "/d/f9.dat");
+  EXPECT_EQ(session.shell.MRUList.back(), "/d/f2.dat");
   EXPECT_EQ(settings.GetSetting("MRUList", "Name8", ""), "/d/f2.dat");
   EXPECT_EQ(Visible().size(), 8u);
 }
@@ -51,7 +51,7 @@ TEST_F(RecentFilesTest, ReopenedFileMovesToTopInItsNewForm) {
   AddToMRUList(session, settings, "/d/b.dat");
   AddToMRUList(session, settings, "/d/c.dat");
   AddToMRUList(session, settings, "/d/a.dat");  // equal to the first entry in lower case
-  EXPECT_EQ(session.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat", "/d/b.dat"}));
+  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat", "/d/b.dat"}));
   EXPECT_EQ(Visible().front(), "&1 /d/a.dat");
 }
 

@@ -4,7 +4,7 @@
 #include "common/line_input.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/dataset_test_support.hpp"
-#include "dataset/index_record.hpp"
+#include "session/index_record.hpp"
 #include "fakes/fakes.hpp"
 
 namespace benchlog {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "common/files.hpp"
-#include "dataset/dataset_paths.hpp"
+#include "session/dataset_paths.hpp"
 #include "dataset/dataset_test_support.hpp"
 #include "fakes/fakes.hpp"
 
@@ -17,9 +17,9 @@ TEST(Reindex, RebuildsBehindTheProgressDialog) {
   TempFolder folder;
   FakePlatform fake(folder.Path());
   const std::string landmarks = Fixture("landmarks.dat");
-  Session session;
-  session.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,635 bytes
-  session.IndexFile = IndexPathFor(folder.Path(), session.DatFile);
+  testing::TestSession session;
+  session.dataset.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,635 bytes
+  session.dataset.IndexFile = IndexPathFor(folder.Path(), session.dataset.DatFile);
   const CommandTable table = BuildCommandTable();
   ASSERT_TRUE(table.Has("mnuReindex"));
 
@@ -36,7 +36,7 @@ TEST(Reindex, RebuildsBehindTheProgressDialog) {
   EXPECT_EQ(fake.progressHistory[1].value, 2);  // one step, then the bar is full
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_EQ(fake.ui.doEventsCalls, 1);
-  EXPECT_EQ(session.markIndex.Size(), 26u);  // 24 Descriptions, built layout
+  EXPECT_EQ(session.dataset.markIndex.Size(), 26u);  // 24 Descriptions, built layout
   EXPECT_TRUE(FileExists(folder.File("three.ndx")));
 }
 
@@ -49,8 +49,8 @@ TEST(Reindex, NeedsADataset) {
   for (const auto& c : cases) {
     TempFolder folder;
     FakePlatform fake(folder.Path());
-    Session session;
-    session.DatFile = c.datFile;
+    testing::TestSession session;
+    session.dataset.DatFile = c.datFile;
     BuildCommandTable().Run("mnuReindex", session, fake.platform);
     EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{c.message}) << c.datFile;
     EXPECT_FALSE(fake.progress.Visible());

@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
-#include "dataset/dataset_paths.hpp"
+#include "session/dataset_paths.hpp"
 #include "dataset/dataset_test_support.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/frm_get_file.hpp"
 #include "fakes/fakes.hpp"
-#include "view/frm_select_points.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_select_points.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -20,14 +20,14 @@ using testing::TempFolder;
 struct DatasetCommandsTest : ::testing::Test {
   TempFolder folder;
   FakePlatform fake{folder.Path()};
-  Session session;
+  testing::TestSession session;
   CommandTable table = BuildCommandTable();
 
   void Open(const std::string& name, const std::string& text) {
-    session.DatFile = folder.Write(name, text);
-    session.DatFilePath = folder.Path() + "/";
+    session.dataset.DatFile = folder.Write(name, text);
+    session.dataset.DatFilePath = folder.Path() + "/";
     SetDerivedPaths(session, folder.Path());
-    ASSERT_TRUE(BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, fake.platform));
+    ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform));
   }
   void Run(const std::string& name) { table.Run(name, session, fake.platform); }
   // Plays the user in frmSelectPoints: selects the items whose PID is listed, then Okay.
@@ -44,19 +44,19 @@ struct DatasetCommandsTest : ::testing::Test {
 TEST_F(DatasetCommandsTest, CompressDropsBlanksAndReindexes) {
   Open("blanked.dat", Fixture("blanked.dat"));
   Run("mnuCompDatFile");
-  EXPECT_EQ(ReadWholeFile(session.DatFile), Fixture("blanked_compressed.dat"));
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), Fixture("blanked_compressed.dat"));
   EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"File Compressed!"});
   ASSERT_FALSE(fake.progressHistory.empty());
   bool reindexShown = false;
   for (const auto& p : fake.progressHistory) reindexShown = reindexShown || (p.Visible() && p.lblProcessing == "Reindexing file");
   EXPECT_TRUE(reindexShown);
   EXPECT_FALSE(fake.progress.Visible());
-  EXPECT_EQ(ReadWholeFile(session.IndexFile).substr(0, 6), "JK0001");
+  EXPECT_EQ(ReadWholeFile(session.dataset.IndexFile).substr(0, 6), "JK0001");
 }
 
 TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
   Open("layouts.dat", Fixture("layouts.dat"));
-  const auto before = session.markIndex.Elements();
+  const auto before = session.dataset.markIndex.Elements();
   fake.ui.fileAnswers.push_back(folder.File("fresh.dat"));
   Run("mnuFileNew");
   const auto& dialog = fake.ui.fileDialogs.at(0);
@@ -64,22 +64,22 @@ TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
   EXPECT_EQ(dialog.title, "Create Dat File");
   EXPECT_EQ(dialog.filter, "Data Files (*.dat)|*.dat");
   EXPECT_EQ(dialog.initDir, folder.Path() + "/");
-  EXPECT_EQ(session.DatFile, folder.File("fresh.dat"));
-  EXPECT_EQ(session.caption, folder.File("fresh.dat"));
-  EXPECT_EQ(session.IndexFile, folder.File("fresh.ndx"));
+  EXPECT_EQ(session.dataset.DatFile, folder.File("fresh.dat"));
+  EXPECT_EQ(session.shell.caption, folder.File("fresh.dat"));
+  EXPECT_EQ(session.dataset.IndexFile, folder.File("fresh.ndx"));
   EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatFullName", ""), folder.File("fresh.dat"));
   EXPECT_FALSE(FileExists(folder.File("fresh.dat")));
   EXPECT_FALSE(session.menu["mnuViewHcl"].enabled);
   EXPECT_FALSE(session.menu["mnuViewVcl"].enabled);
   EXPECT_FALSE(session.menu["mnuViewError"].enabled);
   EXPECT_TRUE(session.menu["mnuTools"].enabled);
-  EXPECT_EQ(session.markIndex.Elements(), before);  // the old records stay until the next build
+  EXPECT_EQ(session.dataset.markIndex.Elements(), before);  // the old records stay until the next build
 }
 
 TEST_F(DatasetCommandsTest, NewOnAnExistingNameAsksFirst) {
   Open("layouts.dat", Fixture("layouts.dat"));
-  const auto before = session.markIndex.Elements();
-  fake.ui.fileAnswers = {session.DatFile, session.DatFile};
+  const auto before = session.dataset.markIndex.Elements();
+  fake.ui.fileAnswers = {session.dataset.DatFile, session.dataset.DatFile};
   fake.ui.msgAnswers = {MsgResult::No, MsgResult::Yes};
 
   Run("mnuFileNew");  // No: the file, its index and MarkIndex stay
@@ -87,14 +87,14 @@ TEST_F(DatasetCommandsTest, NewOnAnExistingNameAsksFirst) {
   EXPECT_EQ(fake.ui.messages[0].text, "File exists.  Overwrite?");
   EXPECT_EQ(fake.ui.messages[0].title, "Create Mkdata File");
   EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::YesNo);
-  EXPECT_TRUE(FileExists(session.DatFile));
-  EXPECT_TRUE(FileExists(session.IndexFile));
-  EXPECT_EQ(session.markIndex.Elements(), before);
+  EXPECT_TRUE(FileExists(session.dataset.DatFile));
+  EXPECT_TRUE(FileExists(session.dataset.IndexFile));
+  EXPECT_EQ(session.dataset.markIndex.Elements(), before);
 
   Run("mnuFileNew");  // Yes: both files go and the index is cleared
-  EXPECT_FALSE(FileExists(session.DatFile));
-  EXPECT_FALSE(FileExists(session.IndexFile));
-  EXPECT_TRUE(session.markIndex.Empty());
+  EXPECT_FALSE(FileExists(session.dataset.DatFile));
+  EXPECT_FALSE(FileExists(session.dataset.IndexFile));
+  EXPECT_TRUE(session.dataset.markIndex.Empty());
 }
 
 TEST_F(DatasetCommandsTest, CombineCopiesTheSelectedFilesInListOrder) {
@@ -102,7 +102,7 @@ TEST_F(DatasetCommandsTest, CombineCopiesTheSelectedFilesInListOrder) {
   folder.Write("in/a.dat", "A1\r\nA2\nstill A2\r\n");
   folder.Write("in/c.dat", "C1\r\n");
   folder.Write("in/notes.txt", "not listed\r\n");
-  session.DatFilePath = folder.Path() + "/in/";
+  session.dataset.DatFilePath = folder.Path() + "/in/";
   folder.Write("out/combined.dat", "old contents");
   fake.ui.fileAnswers.push_back(folder.File("out/combined.dat"));
   fake.ui.modalActions.push_back([](DialogModel& model) {
@@ -141,10 +141,10 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   EXPECT_EQ(fake.ui.messages[1].text, "2 description(s) deleted!");
   EXPECT_EQ(fake.ui.messages[1].title, "Delete Descriptions");
   // The others survive byte for byte.
-  EXPECT_EQ(ReadWholeFile(session.DatFile), dat.substr(0, 470) + dat.substr(896, 1815 - 897) + dat.substr(2233));
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(0, 470) + dat.substr(896, 1815 - 897) + dat.substr(2233));
   std::string text;
-  EXPECT_EQ(GetDescription(session.markIndex, session.DatFile, "CD0005", text), "PID not found!");
-  EXPECT_EQ(GetDescription(session.markIndex, session.DatFile, "CD0006", text), "");
+  EXPECT_EQ(GetDescription(session.dataset.markIndex, session.dataset.DatFile, "CD0005", text), "PID not found!");
+  EXPECT_EQ(GetDescription(session.dataset.markIndex, session.dataset.DatFile, "CD0006", text), "");
   EXPECT_EQ(text, dat.substr(2233, 2658 - 2234));
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_FALSE(fake.ui.hourglass);
@@ -156,7 +156,7 @@ TEST_F(DatasetCommandsTest, DeleteAnsweredNoChangesNothing) {
   SelectPids({"AB1235"});
   fake.ui.msgAnswers.push_back(MsgResult::No);
   Run("mnuDelDesc");
-  EXPECT_EQ(ReadWholeFile(session.DatFile), dat);
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat);
 }
 
 TEST_F(DatasetCommandsTest, TheSentinelsBlankItemDeletesTheFirstDescription) {
@@ -172,7 +172,7 @@ TEST_F(DatasetCommandsTest, TheSentinelsBlankItemDeletesTheFirstDescription) {
   });
   fake.ui.msgAnswers.push_back(MsgResult::Yes);
   Run("mnuDelDesc");
-  EXPECT_EQ(ReadWholeFile(session.DatFile), dat.substr(2242));
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(2242));
 }
 
 TEST_F(DatasetCommandsTest, MoreThanAThousandDeletionsStopAtTheListsBound) {
@@ -194,7 +194,7 @@ TEST_F(DatasetCommandsTest, MoreThanAThousandDeletionsStopAtTheListsBound) {
   Run("mnuDelDesc");
   EXPECT_EQ(fake.ui.MessageTexts().back(), "Subscript out of range");
   // The first 1000 are blanks now (the file keeps its length); the last one is untouched.
-  const std::string after = ReadWholeFile(session.DatFile);
+  const std::string after = ReadWholeFile(session.dataset.DatFile);
   EXPECT_EQ(after.size(), dat.size());
   EXPECT_EQ(after.find("QQ0999"), std::string::npos);
   EXPECT_NE(after.find(" QQ1000  PID"), std::string::npos);
@@ -207,7 +207,7 @@ TEST_F(DatasetCommandsTest, FileIndexViewShowsTheIndexInSmallType) {
   int sizeWhileShown = 0;
   fake.ui.modalActions.push_back([&](DialogModel& model) { sizeWhileShown = dynamic_cast<frmView&>(model).FontSize; });
   Run("mnuViewFileIndex");
-  EXPECT_EQ(view.txtViewFile, ReadWholeFile(session.IndexFile));
+  EXPECT_EQ(view.txtViewFile, ReadWholeFile(session.dataset.IndexFile));
   EXPECT_EQ(view.Tag, "ndx");
   EXPECT_EQ(view.strFileType, "ndx");
   EXPECT_EQ(sizeWhileShown, 8);

@@ -4,7 +4,7 @@
 #include "dataset/build_mark_index.hpp"
 #include "dataset/dataset_test_support.hpp"
 #include "dataset/description_file.hpp"
-#include "dataset/index_record.hpp"
+#include "session/index_record.hpp"
 
 namespace benchlog {
 namespace {

@@ -17,11 +17,11 @@ using testing::TempFolder;
 struct Opening {
   TempFolder data, app;
   FakePlatform fake{app.Path()};
-  Session session;
+  testing::TestSession session;
   Opening() {
-    session.DatFile = data.File("landmarks.dat");
-    session.DatFilePath = data.Path() + "/";
-    session.caption = "Benchlog Version 1.0.0";
+    session.dataset.DatFile = data.File("landmarks.dat");
+    session.dataset.DatFilePath = data.Path() + "/";
+    session.shell.caption = "Benchlog Version 1.0.0";
   }
   bool Load() { return LoadDatasetIndex(session, fake.platform); }
   bool ProgressWasShown() const {
@@ -35,22 +35,23 @@ TEST(LoadDatasetIndex, SetsTheDerivedPaths) {
   Opening o;
   o.Load();
   const std::string stem = o.data.File("landmarks");
-  EXPECT_EQ(o.session.HclFile, stem + ".hcl");
-  EXPECT_EQ(o.session.VclFile, stem + ".vcl");
-  EXPECT_EQ(o.session.MsfFile, stem + ".msf");
-  EXPECT_EQ(o.session.ErrFile, stem + ".err");
-  EXPECT_EQ(o.session.SA6File, stem + "_SA6.txt");
-  EXPECT_EQ(o.session.IndexFile, o.app.File("landmarks.ndx"));
+  EXPECT_EQ(o.session.outputs.HclFile, stem + ".hcl");
+  EXPECT_EQ(o.session.outputs.VclFile, stem + ".vcl");
+  EXPECT_EQ(o.session.outputs.MsfFile, stem + ".msf");
+  EXPECT_EQ(o.session.outputs.ErrFile, stem + ".err");
+  EXPECT_EQ(o.session.outputs.SA6File, stem + "_SA6.txt");
+  EXPECT_EQ(o.session.dataset.IndexFile, o.app.File("landmarks.ndx"));
 }
 
 TEST(LoadDatasetIndex, AMissingDatasetChangesNothingElse) {
   Opening o;
-  o.session.markIndex.Assign({"previous"});
+  o.session.dataset.markIndex.Assign({"previous"});
+  o.session.menu["mnuViewHcl"].enabled = false;
   EXPECT_FALSE(o.Load());
-  EXPECT_EQ(o.session.caption, "Benchlog Version 1.0.0");
-  EXPECT_EQ(o.session.markIndex.Elements(), std::vector<std::string>{"previous"});
+  EXPECT_EQ(o.session.shell.caption, "Benchlog Version 1.0.0");
+  EXPECT_EQ(o.session.dataset.markIndex.Elements(), std::vector<std::string>{"previous"});
   EXPECT_TRUE(o.fake.ui.messages.empty());
-  EXPECT_FALSE(o.session.menu.Has("mnuViewHcl"));
+  EXPECT_FALSE(o.session.menu["mnuViewHcl"].enabled);
 }
 
 TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
@@ -68,8 +69,8 @@ TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
   EXPECT_EQ(shown.value, 1);
   EXPECT_FALSE(o.fake.progress.Visible());
   EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
-  EXPECT_EQ(ReadWholeFile(o.session.IndexFile), Fixture("landmarks.ndx"));
-  EXPECT_EQ(o.session.caption, o.session.DatFile);
+  EXPECT_EQ(ReadWholeFile(o.session.dataset.IndexFile), Fixture("landmarks.ndx"));
+  EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile);
   EXPECT_TRUE(o.session.menu["mnuViewHcl"].enabled);
   EXPECT_FALSE(o.session.menu["mnuViewVcl"].enabled);
   EXPECT_TRUE(o.session.menu["mnuViewError"].enabled);
@@ -96,16 +97,16 @@ TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
     o.app.Write("landmarks.ndx", c.index);
     EXPECT_EQ(o.Load(), c.rebuilt) << c.name;
     EXPECT_FALSE(o.ProgressWasShown()) << c.name;
-    EXPECT_EQ(o.session.caption, o.session.DatFile) << c.name;
-    const std::string onDisk = ReadWholeFile(o.session.IndexFile);
+    EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << c.name;
+    const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
     EXPECT_EQ(onDisk, c.rebuilt ? Fixture("landmarks.ndx") : c.index) << c.name;
     if (c.rebuilt) {
       EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << c.name;
-      EXPECT_EQ(o.session.markIndex.Size(), 10u) << c.name;  // built layout: 8 Descriptions
-      EXPECT_EQ(o.session.markIndex[7], "") << c.name;
+      EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << c.name;  // built layout: 8 Descriptions
+      EXPECT_EQ(o.session.dataset.markIndex[7], "") << c.name;
     } else {
       EXPECT_TRUE(o.fake.ui.messages.empty()) << c.name;
-      EXPECT_EQ(o.session.markIndex.Elements(), SplitCrLf(c.index)) << c.name;
+      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(c.index)) << c.name;
     }
   }
 }

@@ -5,14 +5,14 @@
 
 #include <filesystem>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
 #include "export/export_commands.hpp"
 #include "export/export_run_support.hpp"
-#include "view/frm_select_points.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_select_points.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog::testing {
 namespace {
@@ -32,7 +32,7 @@ class ExportCommand : public ExportRunTest {
 };
 
 TEST_F(ExportCommand, WithoutADatasetSaysSoAndAsksNothing) {
-  session.DatFile.clear();
+  session.dataset.DatFile.clear();
   mnuExport(session, fake.platform);
   EXPECT_EQ(Messages(), std::vector<std::string>{"No mkdata file open!"});
   EXPECT_TRUE(fake.ui.modals.empty());
@@ -78,10 +78,10 @@ TEST_F(ExportCommand, NamesTheOutputsFromTheChosenNameWithoutItsExtension) {
     const std::string stem = Out(c.stem);
     EXPECT_TRUE(FileExists(stem + ".hcl")) << c.chosen;
     EXPECT_TRUE(FileExists(stem + ".vcl")) << c.chosen;
-    EXPECT_EQ(session.HclFile, stem + ".hcl");
-    EXPECT_EQ(session.VclFile, stem + ".vcl");
-    EXPECT_EQ(session.SA6File, stem + "_sa6.txt");
-    EXPECT_EQ(session.ErrFile, stem + ".err");
+    EXPECT_EQ(session.outputs.HclFile, stem + ".hcl");
+    EXPECT_EQ(session.outputs.VclFile, stem + ".vcl");
+    EXPECT_EQ(session.outputs.SA6File, stem + "_sa6.txt");
+    EXPECT_EQ(session.outputs.ErrFile, stem + ".err");
     EXPECT_FALSE(FileExists(stem + ".err")) << "no error listing is written";
   }
 }
@@ -159,7 +159,7 @@ TEST_F(ExportCommand, ListsEveryIndexElementForTheChoiceOfMarks) {
   RunExport(Out("export.txt"), {"DH7204"});
   const auto& list = session.forms.Get<FrmSelectPoints>();
   EXPECT_EQ(list.caption, "Select Point(s) to export:");
-  ASSERT_EQ(list.lstPoints.size(), session.markIndex.Size());
+  ASSERT_EQ(list.lstPoints.size(), session.dataset.markIndex.Size());
   EXPECT_EQ(list.lstPoints[0], "HILLSBORO                      ORANGE                  FY3210");
   EXPECT_EQ(fake.ui.hidden.back(), &list);
   // A mark that is no vertical control: the ".vcl" has 0 bytes and no heading.
@@ -186,7 +186,7 @@ TEST_F(ExportCommand, MoreThanTenThousandChosenMarksEndWithoutAWord) {
     const std::string pid = "AA" + std::string(4 - std::to_string(i % 10000).size(), '0') + std::to_string(i % 10000);
     records.push_back(pid + std::string(139, ' '));
   }
-  session.markIndex.Assign(records);
+  session.dataset.markIndex.Assign(records);
   Options().SetAllStations(false);
   fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmOutputOptions&>(m).cmdOkay_Click(); });
   fake.ui.modalActions.push_back([](DialogModel& m) {
@@ -264,19 +264,19 @@ TEST_F(ExportCommand, AZoneOfNoKnownKindProjectsNothing) {
 TEST_F(ExportCommand, ViewsTheListingsAtTheirPitch) {
   struct Case {
     void (*command)(Session&, Platform&);
-    std::string Session::*path;
+    std::string ExportOutputs::*path;
     const char* captionHead;
     const char* fileType;
     const char* missing;
   };
-  for (const Case c : {Case{mnuViewHcl, &Session::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
-                       Case{mnuViewVcl, &Session::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
+  for (const Case c : {Case{mnuViewHcl, &ExportOutputs::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
+                       Case{mnuViewVcl, &ExportOutputs::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
     fake.ui.messages.clear();
-    session.*c.path = Out("missing.lst");
+    session.outputs.*c.path = Out("missing.lst");
     c.command(session, fake.platform);
     EXPECT_EQ(Messages(), std::vector<std::string>{c.missing});
 
-    session.*c.path = folder.Write("shown.lst", "LISTING\r\n");
+    session.outputs.*c.path = folder.Write("shown.lst", "LISTING\r\n");
     int fontDuringShow = 0;
     fake.ui.modalActions.push_back([&fontDuringShow](DialogModel& m) { fontDuringShow = dynamic_cast<frmView&>(m).FontSize; });
     c.command(session, fake.platform);

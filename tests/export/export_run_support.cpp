@@ -7,7 +7,7 @@
 #include "export/export_commands.hpp"
 #include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
-#include "view/frm_select_points.hpp"
+#include "session/frm_select_points.hpp"
 
 namespace benchlog::testing {
 namespace {
@@ -34,13 +34,13 @@ void ExportRunTest::SetUp() {
 void ExportRunTest::TearDown() { ResetLambertZone(); }
 
 void ExportRunTest::OpenDataset(const std::string& name) {
-  session.DatFile = folder.Write(name, ListingFixture(name));
-  session.DatFilePath = folder.Path() + "/";
+  session.dataset.DatFile = folder.Write(name, ListingFixture(name));
+  session.dataset.DatFilePath = folder.Path() + "/";
   for (const char* picture : kPictures) folder.Write(picture, "");
 }
 
 void ExportRunTest::BuildIndex() {
-  ASSERT_TRUE(BuildMarkIndex(session.DatFile, folder.File("index.ndx"), session.markIndex, fake.platform));
+  ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, folder.File("index.ndx"), session.dataset.markIndex, fake.platform));
 }
 
 void ExportRunTest::Choose(const std::string& zone, bool feet, bool elevationFeet, bool hcl, bool vcl) {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "app/session.hpp"
+#include "session/session.hpp"
 #include "export/export_forms.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
@@ -46,7 +46,7 @@ class ExportRunTest : public ::testing::Test {
 
   TempFolder folder;
   FakePlatform fake;
-  Session session;
+  testing::TestSession session;
 };
 
 }  // namespace benchlog::testing

@@ -10,6 +10,12 @@ namespace benchlog::testing {
 
 std::string SourceSupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }
 
+SupportFiles& SourceSupportFiles() {
+  static SupportFiles files;
+  files.Refresh(SourceSupportPath(), {});
+  return files;
+}
+
 std::vector<std::string> ExportFixtureLines(const std::string& name) {
   return SplitCrLf(ReadWholeFile(std::string(BENCHLOG_TEST_DATA) + "/export/" + name));
 }
@@ -28,7 +34,7 @@ ParseResult Parse(const std::string& pid, const std::vector<std::string>& lines,
                   const ParseGroups& groups) {
   ParseResult result;
   ClearMarkRecord(result.record);
-  ParseDescription(pid, lines, start, groups, result.ErrMsg, result.record, SourceSupportPath());
+  ParseDescription(pid, lines, start, groups, result.ErrMsg, result.record, SourceSupportFiles());
   return result;
 }
 

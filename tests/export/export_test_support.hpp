@@ -5,13 +5,15 @@
 #include <utility>
 #include <vector>
 
-#include "export/mark_record.hpp"
-#include "export/parse_description.hpp"
+#include "export/parser/mark_record.hpp"
+#include "export/parser/parse_description.hpp"
 
 namespace benchlog::testing {
 
 // The support folder of the source tree, ending in "/".
 std::string SourceSupportPath();
+// The support tables of that folder.
+SupportFiles& SourceSupportFiles();
 
 // The lines of a file of tests/data/export, split at CR LF.
 std::vector<std::string> ExportFixtureLines(const std::string& name);

@@ -7,7 +7,7 @@
 #include "export/export_names.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
-#include "export/find_descriptions.hpp"
+#include "dataset/find_descriptions.hpp"
 #include "fakes/temp_folder.hpp"
 
 namespace benchlog::testing {

@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(ExportRunTest, ADatasetReadInSmallBlocksGivesTheSameListings) {
   OpenDataset("fixture.dat");
   Choose("NC    3200", true, false);
-  TextBlocks text(TextFile{session.DatFile, 13});
+  TextBlocks text(TextFile{session.dataset.DatFile, 13});
   std::string ErrMsg = "stale";
   ExportFiles(session, fake.platform, text, Out("export.out"), ErrMsg);
   EXPECT_EQ(ErrMsg, "");

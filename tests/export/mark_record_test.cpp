@@ -3,8 +3,8 @@
 #include <set>
 #include <string>
 
-#include "export/fit_text.hpp"
-#include "export/mark_record.hpp"
+#include "common/fit.hpp"
+#include "export/parser/mark_record.hpp"
 
 namespace benchlog {
 namespace {
@@ -94,7 +94,7 @@ TEST(MarkRecord, HorizontalAndVerticalFlags) {
   }
 }
 
-TEST(FitText, TurnsNulsAndLineEndsIntoBlanksTrimsAndFits) {
+TEST(FitToWidth, TurnsNulsAndLineEndsIntoBlanksTrimsAndFits) {
   struct Case {
     std::string text;
     std::size_t width;
@@ -109,7 +109,7 @@ TEST(FitText, TurnsNulsAndLineEndsIntoBlanksTrimsAndFits) {
       {"A\rB", 4, "A\rB "},
       {"", 2, "  "},
   };
-  for (const auto& c : cases) EXPECT_EQ(FitText(c.text, c.width), c.fitted) << c.text;
+  for (const auto& c : cases) EXPECT_EQ(FitToWidth(c.text, c.width), c.fitted) << c.text;
 }
 
 TEST(NullsToBlanks, ChangesNothingButNuls) {

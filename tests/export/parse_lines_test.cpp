@@ -405,7 +405,7 @@ TEST(ParseDescription, EntryBlanksEpochNetAndReporterOnly) {
   record.Quad = "OLD QUAD";
   std::string ErrMsg = "untouched";
   const std::vector<std::string> lines = {DataLine(P, {{10, "CBN"}, {22, "-"}})};
-  ParseDescription(P, lines, 0, {}, ErrMsg, record, testing::SourceSupportPath());
+  ParseDescription(P, lines, 0, {}, ErrMsg, record, testing::SourceSupportFiles());
   EXPECT_EQ(ErrMsg, "untouched");
   EXPECT_EQ(Field(record, "RecordKind"), "R");
   EXPECT_EQ(Field(record, "Net"), "B");

@@ -12,7 +12,7 @@
 #include "common/files.hpp"
 #include "common/runtime_failure.hpp"
 #include "export/export_test_support.hpp"
-#include "export/find_descriptions.hpp"
+#include "dataset/find_descriptions.hpp"
 #include "export/parsed_marks.hpp"
 
 namespace benchlog::testing {
@@ -42,7 +42,7 @@ std::vector<Expected> ParsedOneByOne(const std::string& text) {
     auto record = std::make_unique<MarkRecord>();
     ClearMarkRecord(*record);
     std::string error;
-    ParseDescription(descriptions.Pid(), lines, 0, ParseGroups{}, error, *record, SourceSupportPath());
+    ParseDescription(descriptions.Pid(), lines, 0, ParseGroups{}, error, *record, SourceSupportFiles());
     marks.push_back({std::string(descriptions.Pid()), std::move(record)});
   }
   return marks;
@@ -57,7 +57,7 @@ TEST(ParsedMarks, AreTheParsersRecordsInTheTextsOrder) {
   // the other thread parse ahead.
   for (const bool pausing : {false, true}) {
     TextBlocks blocks(text);
-    ParsedMarks marks(blocks, SourceSupportPath());
+    ParsedMarks marks(blocks, SourceSupportFiles());
     std::size_t n = 0;
     for (ParsedMark* mark = marks.Next(); mark; mark = marks.Next(), ++n) {
       ASSERT_LT(n, expected.size());
@@ -75,7 +75,7 @@ TEST(ParsedMarks, HandOnAFailureAtItsMark) {
   // A "1" line as the last line: the marks before it, then the failure.
   const std::string text = "1\r\n AB1234  DESIGNATION-  ONE\r\n1\r\n CD5678  DESIGNATION-  TWO\r\n1";
   TextBlocks blocks(text);
-  ParsedMarks marks(blocks, SourceSupportPath());
+  ParsedMarks marks(blocks, SourceSupportFiles());
   EXPECT_EQ(marks.Next()->pid, "AB1234");
   EXPECT_EQ(marks.Next()->pid, "CD5678");
   try {
@@ -88,7 +88,9 @@ TEST(ParsedMarks, HandOnAFailureAtItsMark) {
   // A support file the parser needs and cannot find.
   const std::string sample = ReadWholeFile(std::string(BENCHLOG_SOURCE_DIR) + "/support/samples/sample.dat");
   TextBlocks noSupport(sample);
-  ParsedMarks unsupported(noSupport, "/nonexistent/");
+  SupportFiles nowhere;
+  nowhere.Refresh("/nonexistent/", {});
+  ParsedMarks unsupported(noSupport, nowhere);
   try {
     unsupported.Next();
     FAIL() << "no failure";
@@ -102,7 +104,7 @@ TEST(ParsedMarks, StopWhenLeftEarly) {
   const std::string text = ManyDescriptions();
   for (const int taken : {0, 1, 20}) {
     TextBlocks blocks(text);
-    ParsedMarks marks(blocks, SourceSupportPath());
+    ParsedMarks marks(blocks, SourceSupportFiles());
     for (int n = 0; n < taken; ++n) ASSERT_NE(marks.Next(), nullptr);
   }
 }

@@ -9,7 +9,7 @@
 #include "common/line_input.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
-#include "dataset/index_record.hpp"
+#include "session/index_record.hpp"
 #include "export/export_test_support.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "app/menu_tree.hpp"
 #include "common/files.hpp"
 #include "common/runtime_failure.hpp"
 
@@ -78,5 +79,7 @@ FakePlatform::FakePlatform(const std::string& appPath)
     : platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath.empty() ? "" : appPath + "/"}} {
   progress.observer = [this](const Progress& p) { progressHistory.push_back(p); };
 }
+
+TestSession::TestSession() { InitMenuState(menu); }
 
 }  // namespace benchlog::testing

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/platform.hpp"
+#include "session/session.hpp"
 
 namespace benchlog::testing {
 
@@ -92,6 +93,11 @@ struct FakePlatform {
   Progress progress;
   std::vector<Progress> progressHistory;  // a copy at every show, hide and refresh
   Platform platform;
+};
+
+// A session whose menu holds every entry of the main menu tree, as at the program's start.
+struct TestSession : Session {
+  TestSession();
 };
 
 }  // namespace benchlog::testing

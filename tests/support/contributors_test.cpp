@@ -7,8 +7,8 @@
 #include "common/line_input.hpp"
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
-#include "export/contributors.hpp"
-#include "export/note_header.hpp"
+#include "support_files/contributors.hpp"
+#include "export/parser/note_header.hpp"
 #include "sample_lines.hpp"
 #include "support_paths.hpp"
 

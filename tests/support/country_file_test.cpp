@@ -5,7 +5,7 @@
 
 #include "common/runtime_failure.hpp"
 #include "support_paths.hpp"
-#include "web/country_file.hpp"
+#include "support_files/country_file.hpp"
 
 namespace benchlog {
 namespace {

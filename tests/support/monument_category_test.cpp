@@ -5,7 +5,7 @@
 #include "common/number_text.hpp"
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
-#include "export/monument_category.hpp"
+#include "support_files/monument_category.hpp"
 #include "sample_lines.hpp"
 #include "support_paths.hpp"
 
@@ -24,14 +24,13 @@ TEST(MonumentCategory, FirstLineWhoseTextFromColumnThreeEqualsTheCode) {
       {"db", ""},   // exact comparison
       {"XX", ""},
   };
-  for (const auto& c : cases) {
-    EXPECT_EQ(MonumentCategory(test::FixtureSupport(), c.code), c.category) << "code '" << c.code << "'";
-  }
+  const CategoryTable table = ReadCategoryTable(test::FixtureSupport() + kMonumentCategoryFileName);
+  for (const auto& c : cases) EXPECT_EQ(MonumentCategory(table, c.code), c.category) << "code '" << c.code << "'";
 }
 
 TEST(MonumentCategory, MissingFileIsAFileNotFoundFailure) {
   try {
-    MonumentCategory(test::FixtureSupport() + "nowhere/", "DB");
+    ReadCategoryTable(test::FixtureSupport() + "nowhere/" + kMonumentCategoryFileName);
     ADD_FAILURE() << "no failure";
   } catch (const RuntimeFailure& failure) {
     EXPECT_EQ(failure.number, kFileNotFound);
@@ -39,14 +38,14 @@ TEST(MonumentCategory, MissingFileIsAFileNotFoundFailure) {
 }
 
 TEST(CommittedMonumentCategory, LandmarksAreTheTwoDigitCodesOtherThan71) {
-  const std::string support = test::CommittedSupport();
+  const CategoryTable table = ReadCategoryTable(test::CommittedSupport() + kMonumentCategoryFileName);
   struct Case { const char* code; const char* category; };
   const Case cases[] = {
       // The marker codes seen on real sheets (marker_codes.csv).
       {"DB", "D"}, {"DD", "D"}, {"DE", "D"}, {"DS", "D"}, {"57", "L"},
       {"F", "R"}, {"71", "M"}, {"49", "L"}, {"55", "L"}, {"Z", "O"},
   };
-  for (const auto& c : cases) EXPECT_EQ(MonumentCategory(support, c.code), c.category) << c.code;
+  for (const auto& c : cases) EXPECT_EQ(MonumentCategory(table, c.code), c.category) << c.code;
 }
 
 TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
@@ -57,8 +56,9 @@ TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
     }
   }
   ASSERT_GE(codes.size(), 12u);
+  const CategoryTable table = ReadCategoryTable(test::CommittedSupport() + kMonumentCategoryFileName);
   for (const auto& code : codes) {
-    const std::string category = MonumentCategory(test::CommittedSupport(), code);
+    const std::string category = MonumentCategory(table, code);
     EXPECT_EQ(category.size(), 1u) << "marker code " << code;
     const bool landmark = code.size() == 2 && IsNumeric(code) && code != "71";
     EXPECT_EQ(category == "L", landmark) << "marker code " << code;

@@ -7,7 +7,7 @@
 #include "common/text.hpp"
 #include "sample_lines.hpp"
 #include "support_paths.hpp"
-#include "web/country_file.hpp"
+#include "support_files/country_file.hpp"
 
 namespace benchlog {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "plot/towns_file.hpp"
+#include "support_files/towns_file.hpp"
 #include "sample_lines.hpp"
 #include "support_paths.hpp"
 

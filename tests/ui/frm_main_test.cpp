@@ -6,7 +6,7 @@
 #include <QtTest>
 #include <fstream>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "app/main_window.hpp"
 #include "app/menu_tree.hpp"
 #include "app/ui/frm_main.hpp"
@@ -49,7 +49,7 @@ class FrmMainTest : public QObject {
  private slots:
   void menuTreeMatchesTheProgramsTree() {
     testing::FakePlatform fake;
-    Session session;
+    testing::TestSession session;
     InitMenuState(session.menu);
     const CommandTable commands = BuildCommandTable();
     qt::FrmMain window(session, fake.platform, commands);
@@ -81,7 +81,7 @@ class FrmMainTest : public QObject {
 
   void f10RevealsThePositionSearchAndMenusRunCommands() {
     testing::FakePlatform fake;
-    Session session;
+    testing::TestSession session;
     InitMenuState(session.menu);
     session.menu["mnuLatLoninTxt"].visible = false;
     const CommandTable commands = BuildCommandTable();
@@ -102,7 +102,7 @@ class FrmMainTest : public QObject {
 
   void geometryRoundTrip() {
     testing::FakePlatform fake;
-    Session session;
+    testing::TestSession session;
     InitMenuState(session.menu);
     const CommandTable commands = BuildCommandTable();
     {

@@ -7,13 +7,13 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include "app/session.hpp"
+#include "session/session.hpp"
 #include "common/files.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
-#include "view/frm_view.hpp"
-#include "view/ui/display_text.hpp"
-#include "view/ui/frm_view_window.hpp"
+#include "session/frm_view.hpp"
+#include "session/ui/display_text.hpp"
+#include "session/ui/frm_view_window.hpp"
 
 using namespace benchlog;
 
@@ -37,14 +37,14 @@ class FrmViewTest : public QObject {
   struct Fixture {
     testing::TempFolder folder;
     testing::FakePlatform fake;
-    Session session;
+    testing::TestSession session;
     frmView* model = nullptr;
     std::unique_ptr<qt::FrmViewWindow> window;
     Fixture() {
       QImage(40, 30, QImage::Format_RGB32).save(QString::fromStdString(folder.File("PQ0001ph.jpg")), "JPG");
       QImage(20, 50, QImage::Format_RGB32).save(QString::fromStdString(folder.File("PQ0001sk.jpg")), "JPG");
       folder.Write("BA0003ph.jpg", "not a picture");
-      session.DatFilePath = folder.Path() + "/";
+      session.dataset.DatFilePath = folder.Path() + "/";
       model = &ViewForm(session, fake.platform);
       model->txtViewFile = Text();
       model->Tag = "PQ0001";

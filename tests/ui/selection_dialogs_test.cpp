@@ -7,7 +7,7 @@
 
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "fakes/temp_folder.hpp"
-#include "view/ui/frm_select_points_window.hpp"
+#include "session/ui/frm_select_points_window.hpp"
 
 using namespace benchlog;
 

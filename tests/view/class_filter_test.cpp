@@ -4,7 +4,7 @@
 
 #include "view/class_filter.hpp"
 #include "fakes/fakes.hpp"
-#include "view/frm_select_points.hpp"
+#include "session/frm_select_points.hpp"
 
 namespace benchlog {
 namespace {

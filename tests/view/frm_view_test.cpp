@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "app/command_table.hpp"
-#include "app/session.hpp"
+#include "session/command_table.hpp"
+#include "session/session.hpp"
 #include "common/files.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -303,7 +303,7 @@ TEST(frmView, UnloadSavesThePlacement) {
 }
 
 TEST(frmView, OneViewerPerSession) {
-  Session session;
+  testing::TestSession session;
   FakePlatform fake;
   frmView& view = ViewForm(session, fake.platform);
   EXPECT_EQ(&view, &ViewForm(session, fake.platform));

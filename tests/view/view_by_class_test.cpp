@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
-#include "view/frm_select_points.hpp"
-#include "view/frm_view.hpp"
+#include "session/frm_select_points.hpp"
+#include "session/frm_view.hpp"
 
 namespace benchlog {
 namespace {
@@ -18,16 +18,16 @@ using testing::TempFolder;
 struct ViewByClassTest : ::testing::Test {
   TempFolder folder;
   FakePlatform fake{folder.Path()};
-  Session session;
+  testing::TestSession session;
   std::string dat = ReadWholeFile(BENCHLOG_TEST_DATA "/dataset/layouts.dat");
   CommandTable table = BuildCommandTable();
 
   ViewByClassTest() {
-    session.DatFile = folder.Write("layouts.dat", dat);
-    session.DatFilePath = folder.Path() + "/";
-    session.IndexFile = folder.File("layouts.ndx");
+    session.dataset.DatFile = folder.Write("layouts.dat", dat);
+    session.dataset.DatFilePath = folder.Path() + "/";
+    session.dataset.IndexFile = folder.File("layouts.ndx");
   }
-  void LoadIndex() { LoadIndexFile(BENCHLOG_TEST_DATA "/dataset/layouts.ndx", session.markIndex); }
+  void LoadIndex() { LoadIndexFile(BENCHLOG_TEST_DATA "/dataset/layouts.ndx", session.dataset.markIndex); }
 
   // Runs a class command; the user sees the list, picks the items at `picks` and presses Okay.
   std::vector<std::string> Pick(const std::string& command, std::vector<std::size_t> picks) {
@@ -77,13 +77,13 @@ TEST_F(ViewByClassTest, ClassesListTheirMarksInIndexOrder) {
 }
 
 TEST_F(ViewByClassTest, BuiltIndexListsItsEmptyElementBeforeTheLastRecord) {
-  ASSERT_TRUE(BuildMarkIndex(session.DatFile, session.IndexFile, session.markIndex, fake.platform));
+  ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform));
   EXPECT_EQ(Pick("mnuAllHorizontal", {}), (std::vector<std::string>{"AB1234", "AB1235", "", "AB1237"}));
 }
 
 TEST_F(ViewByClassTest, SelectedDescriptionsReachTheViewerTogether) {
   LoadIndex();
-  session.backColor = 0x00CCFFFF;  // the main window's background
+  session.shell.backColor = 0x00CCFFFF;  // the main window's background
   Pick("mnuAllHorizontal", {0, 2});  // AB1234 and AB1237
   const frmView* view = Viewer();
   ASSERT_NE(view, nullptr);
@@ -118,7 +118,7 @@ TEST_F(ViewByClassTest, NoIndexFailsOnTheArrayBound) {
 TEST_F(ViewByClassTest, MoreThanTenThousandSelectedFail) {
   std::vector<std::string> elements(10001, std::string(145, ' '));
   for (auto& e : elements) e.replace(0, 8, "ZZ0001 1");
-  session.markIndex.Assign(elements);
+  session.dataset.markIndex.Assign(elements);
   fake.ui.modalActions.push_back([](DialogModel& model) {
     auto& list = dynamic_cast<FrmSelectPoints&>(model);
     list.selected.assign(list.lstPoints.size(), true);

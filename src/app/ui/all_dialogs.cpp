@@ -3,13 +3,13 @@
 #include "app/ui/about_windows.hpp"
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "export/ui/export_dialogs.hpp"
-#include "view/ui/view_dialogs.hpp"
+#include "session/ui/session_dialogs.hpp"
 
 namespace benchlog::qt {
 
 void RegisterAllDialogs(Platform& platform) {
   RegisterAppDialogs(platform);
-  RegisterViewDialogs();
+  RegisterSessionDialogs();
   RegisterDatasetDialogs();
   RegisterExportDialogs();
 }

@@ -55,7 +55,7 @@ QAction* FrmMain::Action(const std::string& name) const {
 void FrmMain::RunCommand(const std::string& name) {
   commands_.Run(name, session_, platform_);
   SyncFromSession();
-  if (session_.quitRequested) close();
+  if (session_.shell.quitRequested) close();
 }
 
 void FrmMain::SyncFromSession() {
@@ -68,10 +68,10 @@ void FrmMain::SyncFromSession() {
     action->setCheckable(state.checked);
     action->setChecked(state.checked);
   }
-  setWindowTitle(ToQt(session_.caption));
+  setWindowTitle(ToQt(session_.shell.caption));
   QPalette colors = palette();
-  colors.setColor(QPalette::Window, ColorOfNumber(session_.backColor));
-  colors.setColor(QPalette::WindowText, ColorOfNumber(session_.foreColor));
+  colors.setColor(QPalette::Window, ColorOfNumber(session_.shell.backColor));
+  colors.setColor(QPalette::WindowText, ColorOfNumber(session_.shell.foreColor));
   setPalette(colors);
   setAutoFillBackground(true);
 }

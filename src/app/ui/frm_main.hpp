@@ -5,8 +5,8 @@
 #include <QMainWindow>
 #include <map>
 
-#include "app/command_table.hpp"
-#include "app/session.hpp"
+#include "session/command_table.hpp"
+#include "session/session.hpp"
 #include "platform/platform.hpp"
 #include "platform/window_placement.hpp"
 

@@ -4,7 +4,7 @@
 #include <QStandardPaths>
 #include <memory>
 
-#include "app/command_table.hpp"
+#include "app/command_registry.hpp"
 #include "app/demo_dataset.hpp"
 #include "app/frm_about.hpp"
 #include "app/main_window.hpp"
