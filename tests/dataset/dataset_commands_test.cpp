@@ -18,7 +18,7 @@ TEST(Reindex, RebuildsBehindTheProgressDialog) {
   FakePlatform fake(folder.Path());
   const std::string landmarks = Fixture("landmarks.dat");
   Session session;
-  session.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,635 bytes
+  session.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,539 bytes
   session.IndexFile = IndexPathFor(folder.Path(), session.DatFile);
   const CommandTable table = BuildCommandTable();
   ASSERT_TRUE(table.Has("mnuReindex"));
