@@ -14,7 +14,7 @@ const char* const kNames[] = {"MESA", "RIDGE", "CHURCH SPIRE", "WATER TANK", "RA
                               "MILL", "SCHOOL", "CAPITOL DOME", "AIRPORT BEACON", "STACK", "SUMMIT", "DAM"};
 const char* const kCounties[] = {"DENVER", "JEFFERSON", "BOULDER", "ADAMS", "ARAPAHOE", "DOUGLAS", "EL PASO",
                                  "LARIMER", "WELD", "PUEBLO", "MESA", "GUNNISON", "SAN JUAN", "LA PLATA"};
-const char* const kAgencies[] = {"NGS", "CGS", "USGS", "COUSGS", "USPSQD", "CODOT", "COUNTY", "USACE"};
+const char* const kAgencies[] = {"OCO", "CCO", "USGS", "COUSGS", "USPSQD", "CODOT", "COUNTY", "USACE"};
 const char* const kConditions[] = {"GOOD", "GOOD", "GOOD", "POOR", "NOT RECOVERED", "SEE DESCRIPTION",
                                    "MARK NOT FOUND", "DESTROYED"};
 const char* const kWords[] = {"THE",   "MARK",  "IS",     "SET",   "IN",    "A",      "CONCRETE", "POST",
@@ -55,7 +55,7 @@ class DescriptionWriter {
   std::uint64_t Write(const std::string& pid) {
     bytes_ = 0;
     pid_ = pid;
-    Emit("1        National Geodetic Survey,   Retrieval Date = MARCH 3, 2024");
+    Emit("1        Orbis Control Office,   Retrieval Date = MARCH 3, 2024");
     Emit(Line(pid_).At(10, std::string(69, '*')));
     ClassLines();
     NameLines();
@@ -189,7 +189,7 @@ class DescriptionWriter {
     Emit(Line(pid_, '_').At(8, std::string("_MARKER: ") + Pick(random_, kMarkers)));
     Emit(Line(pid_, '_').At(8, "_SETTING: 7 = SET IN TOP OF CONCRETE MONUMENT"));
     Emit(Line(pid_, '_').At(8, "_STAMPING: " + name_ + " 1978"));
-    Emit(Line(pid_, '_').At(8, "_MARK LOGO: CGS"));
+    Emit(Line(pid_, '_').At(8, "_MARK LOGO: CCO"));
     Emit(Line(pid_, '_').At(8, "_PROJECTION: PROJECTING 10 CENTIMETERS"));
     Emit(Line(pid_, '_').At(8, "_MAGNETIC: N = NO MAGNETIC MATERIAL"));
     if (Between(0, 2) > 0)
@@ -204,7 +204,7 @@ class DescriptionWriter {
     Emit(Line(pid_));
     Emit(Line(pid_).At(8, "  HISTORY").At(22, "-").At(24, "Date").At(33, "Condition").At(50, "Report By"));
     int year = Between(1900, 1980);
-    Emit(Line(pid_).At(8, "  HISTORY").At(22, "-").At(24, std::to_string(year)).At(33, "MONUMENTED").At(50, "CGS"));
+    Emit(Line(pid_).At(8, "  HISTORY").At(22, "-").At(24, std::to_string(year)).At(33, "MONUMENTED").At(50, "CCO"));
     for (int n = Between(1, 7); n > 0; --n) {
       year += Between(1, 8);
       Emit(Line(pid_).At(8, "  HISTORY").At(22, "-").At(24, std::to_string(year) + "0615").At(
@@ -216,7 +216,7 @@ class DescriptionWriter {
     Emit(Line(pid_));
     Emit(Line(pid_).At(34, "STATION DESCRIPTION"));
     Emit(Line(pid_));
-    Emit(Line(pid_, '\'').At(8, "'DESCRIBED BY COAST AND GEODETIC SURVEY 1935"));
+    Emit(Line(pid_, '\'').At(8, "'DESCRIBED BY COASTAL CONTROL OFFICE 1935"));
     for (int paragraph = Between(1, 4); paragraph > 0; --paragraph) {
       for (int n = Between(3, 9); n > 0; --n) Emit(Line(pid_, '\'').At(8, "'" + Sentence(72)));
       Emit(Line(pid_, '\''));

@@ -18,7 +18,7 @@ TEST(Reindex, RebuildsBehindTheProgressDialog) {
   FakePlatform fake(folder.Path());
   const std::string landmarks = Fixture("landmarks.dat");
   testing::TestSession session;
-  session.dataset.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,635 bytes
+  session.dataset.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,539 bytes
   session.dataset.IndexFile = IndexPathFor(folder.Path(), session.dataset.DatFile);
   const CommandTable table = BuildCommandTable();
   ASSERT_TRUE(table.Has("mnuReindex"));

@@ -128,7 +128,7 @@ TEST_F(DatasetCommandsTest, CombineCopiesTheSelectedFilesInListOrder) {
 }
 
 TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
-  // landmarks.dat: CD0001..CD0008 at offsets 1, 471, 897, 1330, 1815, 2234, 2658, 3119; 3545 bytes.
+  // landmarks.dat: CD0001..CD0008 at offsets 1, 467, 889, 1318, 1799, 2214, 2634, 3091; 3513 bytes.
   const std::string dat = Fixture("landmarks.dat");
   Open("landmarks.dat", dat);
   SelectPids({"CD0002", "CD0005"});
@@ -141,11 +141,11 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   EXPECT_EQ(fake.ui.messages[1].text, "2 description(s) deleted!");
   EXPECT_EQ(fake.ui.messages[1].title, "Delete Descriptions");
   // The others survive byte for byte.
-  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(0, 470) + dat.substr(896, 1815 - 897) + dat.substr(2233));
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(0, 466) + dat.substr(888, 1799 - 889) + dat.substr(2213));
   std::string text;
   EXPECT_EQ(GetDescription(session.dataset.markIndex, session.dataset.DatFile, "CD0005", text), "PID not found!");
   EXPECT_EQ(GetDescription(session.dataset.markIndex, session.dataset.DatFile, "CD0006", text), "");
-  EXPECT_EQ(text, dat.substr(2233, 2658 - 2234));
+  EXPECT_EQ(text, dat.substr(2213, 2634 - 2214));
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_FALSE(fake.ui.hourglass);
 }
@@ -172,7 +172,7 @@ TEST_F(DatasetCommandsTest, TheSentinelsBlankItemDeletesTheFirstDescription) {
   });
   fake.ui.msgAnswers.push_back(MsgResult::Yes);
   Run("mnuDelDesc");
-  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(2242));
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(2234));
 }
 
 TEST_F(DatasetCommandsTest, MoreThanAThousandDeletionsStopAtTheListsBound) {

@@ -11,11 +11,11 @@ TEST(DatasetText, TellsHeaderDataAndForeignLinesApart) {
     bool header, data, foreign;
   };
   const Case cases[] = {
-      {"1        National Geodetic Survey", true, false, false},
+      {"1        Orbis Control Office", true, false, false},
       {"1      ", true, false, false},
       {"1", false, false, true},             // "1" alone
       {"1     X", false, false, true},       // five blanks only
-      {"1\tNational", false, false, true},   // a tab is not a blank
+      {"1\tOrbis", false, false, true},      // a tab is not a blank
       {" AB1234  PID         -  AB1234", false, true, false},
       {"      ", false, true, false},        // a line of blanks
       {"", false, false, true},              // empty: column 1 is no blank

@@ -65,7 +65,7 @@ TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
   EXPECT_TRUE(shown.Visible());
   EXPECT_EQ(shown.lblProcessing, "Creating index...");
   EXPECT_EQ(shown.lblInfo, "Please wait...");
-  EXPECT_EQ(shown.max, 0);  // 3545 bytes / 5000
+  EXPECT_EQ(shown.max, 0);  // 3513 bytes / 5000
   EXPECT_EQ(shown.value, 1);
   EXPECT_FALSE(o.fake.progress.Visible());
   EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
@@ -83,7 +83,7 @@ TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
     std::string index;
     bool rebuilt;
   };
-  const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003545 |\r\n";
+  const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003513 |\r\n";
   const Case cases[] = {
       {"valid", Fixture("landmarks.ndx"), false},
       {"other dataset's length", Fixture("layouts.ndx"), true},

@@ -102,11 +102,11 @@ TEST(MarkLookup, SpansInBothLayouts) {
     std::int64_t builtStart, builtNext, loadedStart, loadedNext;
   };
   const Case cases[] = {
-      {"AB1234", 1, 2243, 1, 2243},
-      {"AB1235", 2243, 473605, 2243, 473605},  // " 47 36 05." of AB1237's latitude
+      {"AB1234", 1, 2235, 1, 2235},
+      {"AB1235", 2235, 473605, 2235, 473605},  // " 47 36 05." of AB1237's latitude
       {"AB1236", 247360, 0, 473605, 0},        // "2 47 36 0" built (two blanks), " 47 36 05" loaded
-      {"AB1237", 3968, 4924, 3968, 4924},      // the sentinel ends the last
-      {"", 1, 2243, 1, 2243},
+      {"AB1237", 3949, 4898, 3949, 4898},      // the sentinel ends the last
+      {"", 1, 2235, 1, 2235},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(LocateMark(built, c.pid).start, c.builtStart) << c.pid;

@@ -28,7 +28,7 @@ class FrmViewTest : public QObject {
     const auto line = [](std::string text) { return text + std::string(78 - text.size(), ' ') + "\r\n"; };
     std::string text;
     for (const std::string pid : {"PQ0001", "NO0002", "BA0003"}) {
-      text += line("1      National Geodetic Survey");
+      text += line("1      Orbis Control Office");
       for (int n = 0; n < 2; ++n) text += line(" " + pid + "  DESIGNATION -  MARK " + pid);
     }
     return text;

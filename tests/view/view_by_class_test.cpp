@@ -87,9 +87,9 @@ TEST_F(ViewByClassTest, SelectedDescriptionsReachTheViewerTogether) {
   Pick("mnuAllHorizontal", {0, 2});  // AB1234 and AB1237
   const frmView* view = Viewer();
   ASSERT_NE(view, nullptr);
-  // AB1234 spans offsets 1 to 2243; AB1237 runs from 3968 to the sentinel's 4924, whose last
+  // AB1234 spans offsets 1 to 2235; AB1237 runs from 3949 to the sentinel's 4898, whose last
   // byte is not read back.
-  EXPECT_EQ(view->txtViewFile, dat.substr(0, 2242) + dat.substr(3967, 956));
+  EXPECT_EQ(view->txtViewFile, dat.substr(0, 2234) + dat.substr(3948, 949));
   EXPECT_EQ(view->Caption, "View Description(s)");
   EXPECT_EQ(view->Tag, "AB1234");
   EXPECT_EQ(view->strFileType, "dat");
@@ -136,7 +136,7 @@ TEST_F(ViewByClassTest, DescriptionByPid) {
   ASSERT_EQ(fake.ui.modals.size(), 1u);
   const auto* view = dynamic_cast<const frmView*>(fake.ui.modals[0]);
   EXPECT_EQ(view->Tag, "AB1234");
-  EXPECT_EQ(view->txtViewFile, dat.substr(0, 2242));
+  EXPECT_EQ(view->txtViewFile, dat.substr(0, 2234));
   EXPECT_EQ(view->Caption, "View Description(s)");
 
   table.Run("mnuLocByPid", session, fake.platform);  // empty answer: nothing
