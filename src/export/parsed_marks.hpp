@@ -1,13 +1,13 @@
 #pragma once
-// The Descriptions of the export's text, parsed in order while the export computes and writes
-// the marks before them. Reading and parsing are most of an export's work, so a second thread
-// cuts the text into Descriptions, a few marks ahead, and parses what the export has not yet
-// reached; the export parses a Description itself when it gets there first. The records are
-// used again and again, so the work touches little fresh memory.
-#include <atomic>
+// The Descriptions of the export's text, parsed in order. Reading and parsing are most of an
+// export's work, so past the first few marks a second thread cuts and parses the Descriptions a
+// few marks ahead of the export, into a small ring of records that are used again and again. A
+// short text (a few chosen marks) is parsed on the caller's thread alone.
+#include <condition_variable>
 #include <cstddef>
 #include <exception>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -39,14 +39,20 @@ class ParsedMarks {
   // The next Description's mark, which the caller may change, valid until the next call; nullptr
   // when the text has no more. Throws what reading or parsing this Description threw.
   ParsedMark* Next();
+  // True once the second thread has been started.
+  bool Threaded() const { return thread_.joinable(); }
+
+  // Marks parsed ahead of the export, and how many the caller's thread parses before a second
+  // thread takes over: a thread pays for its start only over more than about 30 marks.
+  static constexpr std::size_t kAhead = 32;
+  static constexpr std::size_t kOnThisThread = 64;
+  // Each thread wakes the other once per half a ring of marks, not for every mark: a wake-up for
+  // every mark made the export half as slow again.
+  static constexpr std::size_t kBatch = kAhead / 2;
 
  private:
-  static constexpr std::size_t kAhead = 16;
-
-  // A record and what parsing it works with.
+  // A record and the Description's text it was parsed from.
   struct Slot {
-    enum State { kFree, kCut, kParsing, kParsed };
-    std::atomic<State> state{kFree};
     ParsedMark mark;
     std::string text;                     // the Description's lines, copied out of the text read
     std::vector<std::string_view> lines;  // into `text`
@@ -55,16 +61,24 @@ class ParsedMarks {
   };
 
   Slot& SlotOf(std::size_t mark) { return slots_[mark % kAhead]; }
-  void Run(TextBlocks& text);
-  // Cuts the next Description of `descriptions` into `slot`; true when there was one.
-  static bool Cut(DescriptionStream& descriptions, std::vector<std::string_view>& lines, Slot& slot);
-  // Parses the slot's Description if nobody has begun it; false when somebody has.
-  bool TryParse(Slot& slot);
+  // Cuts and parses the next Description into `slot`; false when there is none or it failed.
+  bool Fill(Slot& slot);
+  void Run();
 
   SupportFiles& support_;
+  DescriptionStream descriptions_;
+  std::vector<std::string_view> cut_;  // the lines the stream hands out, before they are copied
   const std::unique_ptr<Slot[]> slots_ = std::make_unique<Slot[]>(kAhead);
-  std::atomic<std::size_t> taken_{0};  // marks handed out and done with, whose records may be reused
-  std::atomic<bool> stop_{false};
+
+  // Once the thread runs, these four are the mutex's.
+  std::mutex mutex_;
+  std::condition_variable ready_;  // marks were filled
+  std::condition_variable room_;   // slots were freed, or the thread is to stop
+  std::size_t made_ = 0;           // marks filled, the end or a failure included
+  std::size_t taken_ = 0;          // marks the caller is done with, whose slots may be filled again
+  bool ended_ = false;             // the last slot filled holds the end or a failure
+  bool stop_ = false;
+
   std::size_t next_ = 0;  // the mark Next hands out next
   std::thread thread_;
 };

@@ -1,5 +1,5 @@
-// Parsing on a second thread: the marks come out in the text's order, each as the parser alone
-// makes it, whoever of the two threads parsed it; failures come out at their mark.
+// Parsed marks come out in the text's order, each as the parser alone makes it, whichever thread
+// parsed it; failures come out at their mark.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "common/files.hpp"
@@ -23,11 +25,11 @@ struct Expected {
   std::unique_ptr<MarkRecord> record;
 };
 
-// The sample dataset eight times over: far more marks than are parsed ahead.
-std::string ManyDescriptions() {
+// The sample dataset (45 marks) `copies` times over.
+std::string Samples(int copies) {
   const std::string sample = ReadWholeFile(std::string(BENCHLOG_SOURCE_DIR) + "/support/samples/sample.dat");
   std::string text;
-  for (int copy = 0; copy < 8; ++copy) text += sample;
+  while (copies-- > 0) text += sample;
   return text;
 }
 
@@ -48,64 +50,62 @@ std::vector<Expected> ParsedOneByOne(const std::string& text) {
   return marks;
 }
 
-// Every record is compared whole: its fields are all characters.
+// Every record is compared whole: its fields are all characters. The sample's 45 marks are parsed
+// on this thread alone; the longer text's, past the first ones, on a second thread.
 TEST(ParsedMarks, AreTheParsersRecordsInTheTextsOrder) {
-  const std::string text = ManyDescriptions();
-  const std::vector<Expected> expected = ParsedOneByOne(text);
-  ASSERT_GT(expected.size(), 300u);
-  // Taking the marks at once leaves most of the parsing to this thread; pausing now and then lets
-  // the other thread parse ahead.
-  for (const bool pausing : {false, true}) {
+  // Taking the marks at once keeps the queue empty; pausing with a mark in hand lets it fill.
+  for (const auto& [text, pausing] : {std::pair{Samples(8), false}, {Samples(8), true}, {Samples(1), false}}) {
+    const std::vector<Expected> expected = ParsedOneByOne(text);
+    ASSERT_GT(expected.size(), 40u);
     TextBlocks blocks(text);
     ParsedMarks marks(blocks, SourceSupportFiles());
     std::size_t n = 0;
     for (ParsedMark* mark = marks.Next(); mark; mark = marks.Next(), ++n) {
       ASSERT_LT(n, expected.size());
+      if (pausing && n % 7 == 0) std::this_thread::sleep_for(std::chrono::microseconds(200));
       EXPECT_EQ(mark->pid, expected[n].pid);
       EXPECT_EQ(std::memcmp(&mark->record, expected[n].record.get(), sizeof(MarkRecord)), 0) << expected[n].pid;
       mark->record.Designation = "CHANGED BY THE EXPORT";  // a record handed out is the caller's
-      if (pausing && n % 7 == 0) std::this_thread::sleep_for(std::chrono::microseconds(200));
     }
     EXPECT_EQ(n, expected.size()) << pausing;
     EXPECT_EQ(marks.Next(), nullptr);
+    EXPECT_EQ(marks.Threaded(), n > 45);
   }
 }
 
+// A "1" line as the last line fails after all the marks before it, on either thread; a support
+// file that cannot be found, at the first mark. A second call fails alike.
 TEST(ParsedMarks, HandOnAFailureAtItsMark) {
-  // A "1" line as the last line: the marks before it, then the failure.
-  const std::string text = "1\r\n AB1234  DESIGNATION-  ONE\r\n1\r\n CD5678  DESIGNATION-  TWO\r\n1";
-  TextBlocks blocks(text);
-  ParsedMarks marks(blocks, SourceSupportFiles());
-  EXPECT_EQ(marks.Next()->pid, "AB1234");
-  EXPECT_EQ(marks.Next()->pid, "CD5678");
-  try {
-    marks.Next();
-    FAIL() << "no failure";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.number, kSubscriptOutOfRange);
-  }
-
-  // A support file the parser needs and cannot find.
-  const std::string sample = ReadWholeFile(std::string(BENCHLOG_SOURCE_DIR) + "/support/samples/sample.dat");
-  TextBlocks noSupport(sample);
-  SupportFiles nowhere;
-  nowhere.Refresh("/nonexistent/", {});
-  ParsedMarks unsupported(noSupport, nowhere);
-  try {
-    unsupported.Next();
-    FAIL() << "no failure";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.number, kFileNotFound);
+  for (const auto& [text, supportPath, good, failure] :
+       {std::tuple{Samples(1) + "1", SourceSupportPath(), 45, kSubscriptOutOfRange},
+        {Samples(8) + "1", SourceSupportPath(), 8 * 45, kSubscriptOutOfRange},
+        {Samples(1), std::string("/nonexistent/"), 0, kFileNotFound}}) {
+    TextBlocks blocks(text);
+    SupportFiles support;
+    support.Refresh(supportPath, {});
+    ParsedMarks marks(blocks, support);
+    for (int n = 0; n < good; ++n) ASSERT_NE(marks.Next(), nullptr) << n;
+    for (int call = 0; call < 2; ++call) {
+      try {
+        marks.Next();
+        ADD_FAILURE() << "no failure after " << good;
+      } catch (const RuntimeFailure& thrown) {
+        EXPECT_EQ(thrown.number, failure);
+      }
+    }
   }
 }
 
-// Left after a few marks, the parsing stops at once rather than reading the text to its end.
+// Left just after it started, or with the queue full, the second thread stops at once rather than
+// reading the text to its end.
 TEST(ParsedMarks, StopWhenLeftEarly) {
-  const std::string text = ManyDescriptions();
-  for (const int taken : {0, 1, 20}) {
+  const std::string text = Samples(8);
+  for (const int pause : {0, 20}) {
     TextBlocks blocks(text);
     ParsedMarks marks(blocks, SourceSupportFiles());
-    for (int n = 0; n < taken; ++n) ASSERT_NE(marks.Next(), nullptr);
+    for (std::size_t n = 0; n <= ParsedMarks::kOnThisThread; ++n) ASSERT_NE(marks.Next(), nullptr);
+    std::this_thread::sleep_for(std::chrono::milliseconds(pause));
+    EXPECT_TRUE(marks.Threaded());
   }
 }
 
