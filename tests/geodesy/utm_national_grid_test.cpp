@@ -64,7 +64,7 @@ TEST_F(GeodesyTest, UtmLineProjectsWithCentralScale) {
   std::int16_t zone = 0;
   UtmZoneLine(line, RadOfDeg(77), zone);
   double north = 0, east = 0, convergence = 1, scale = 0;
-  TmForward(line, RadOfDeg(-33), (75.0 + 0.0 / 60) / (180.0 / kPi), north, east, convergence, scale);
+  TmForward(ellipsoid, line, RadOfDeg(-33), (75.0 + 0.0 / 60) / (180.0 / kPi), north, east, convergence, scale);
   EXPECT_EQ(scale, 0.9996);  // (2500 - 1) / 2500
   EXPECT_EQ(east, 500000.0);
   EXPECT_EQ(convergence, 0.0);
