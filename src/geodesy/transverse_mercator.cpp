@@ -34,6 +34,10 @@ double PrimeVertical(const Ellipsoid& ellipsoid, double k0, double latitude) {
 
 double Squared(double x) { return x * x; }
 
+// The longitude difference within a half turn either way (unchanged when it already is), so that
+// a longitude east of Greenwich projects alike given as a negative value or as 180 to 360.
+double WithinHalfTurn(double difference) { return std::remainder(difference, kTwoPi); }
+
 }  // namespace
 
 double MeridionalArcAngle(double latitude) {
@@ -53,7 +57,7 @@ void TmForward(const Ellipsoid& ellipsoid, std::string_view zoneLine, double lat
   const double t = std::tan(latitude);
   const double t2 = t * t;
   const double t4 = t2 * t2;
-  const double l = (longitude - zone.centralMeridian) * cosLat;
+  const double l = WithinHalfTurn(longitude - zone.centralMeridian) * cosLat;
   const double l2 = l * l;
 
   const double arc = MeridionalArcAngle(latitude) * zone.k0 * kRectifyingRadius;
