@@ -18,7 +18,6 @@
 #include "export/export_commands.hpp"
 #include "export/export_forms.hpp"
 #include "fakes/fakes.hpp"
-#include "geodesy/ellipsoid.hpp"
 
 namespace benchlog::bench {
 namespace {
@@ -35,11 +34,13 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   std::printf("%llu bytes, %zu Descriptions\n\n", static_cast<unsigned long long>(made.bytes), made.pids.size());
   ReadWholeFile(dat);  // into the page cache
 
-  // GRS 80, as the shipped configuration has it.
-  SetCurrentEllipsoid({6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)});
   testing::FakePlatform fake(SupportFolder());
   fake.progress.observer = nullptr;
   testing::TestSession session;
+  // GRS 80, as the shipped configuration has it.
+  session.config.ellipsoidA = 6378137.0;
+  session.config.ellipsoidE2 = 0.00669438002290;
+  session.config.ellipsoidEp2 = 0.00669438002290 / (1 - 0.00669438002290);
   session.dataset.DatFile = dat;
   session.dataset.DatFilePath = folder + "/";
 

@@ -9,7 +9,6 @@
 #include "common/paths.hpp"
 #include "common/text.hpp"
 #include "dataset/load_dataset_index.hpp"
-#include "geodesy/ellipsoid.hpp"
 
 namespace benchlog {
 namespace {
@@ -53,7 +52,6 @@ bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& place
 
   std::string missing;
   IgnoringFailures([&] { missing = CheckLoadFiles(platform, session.config); });
-  SetCurrentEllipsoid(EllipsoidFromConfiguration(session.config));
   if (!missing.empty()) {
     platform.ui.MsgBox("The following files were not found:" + std::string(kCrLf) + missing, MsgButtons::Ok,
                        MsgIcon::Critical, kAppTitle);

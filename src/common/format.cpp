@@ -54,8 +54,10 @@ const CompiledPattern& Compiled(std::string_view pattern) {
 }
 
 // The magnitude's decimal digits rounded half away from zero to `decimals` places, from its
-// 15-significant-digit form: `integer` without leading zeros (empty for zero) and exactly
-// `decimals` fraction digits in `fraction`.
+// 15-significant-digit form: `integer` without leading zeros (empty for zero) and the fraction
+// digits in `fraction`. The buffer holds every digit a double can have (309 integer places, the
+// last significant one 338 places behind the point); a pattern with more places than the buffer
+// keeps gets zeros for the rest, which is what those digits are.
 struct RoundedDigits {
   std::string_view integer, fraction;
   char buffer[512];
@@ -142,19 +144,24 @@ void AppendIntegerSection(std::string& out, const CompiledPattern& p, std::strin
   }
 }
 
+// Fraction digit `place` (from 1); the places beyond the rounded digits are zeros.
+char FractionDigit(std::string_view fraction, std::size_t place) {
+  return place <= fraction.size() ? fraction[place - 1] : '0';
+}
+
 // Fraction digits into the fraction section's placeholders; trailing "#" places drop their zeros.
 void AppendFractionSection(std::string& out, const CompiledPattern& p, std::string_view fraction) {
   const std::string& section = p.fractionSection;
   std::size_t shown = static_cast<std::size_t>(p.decimals);  // places shown, from the left
   for (std::size_t i = section.size(); i-- > 0 && shown > 0;) {
     if (!IsPlaceholder(section[i])) continue;
-    if (section[i] != '#' || fraction[shown - 1] != '0') break;
+    if (section[i] != '#' || FractionDigit(fraction, shown) != '0') break;
     --shown;
   }
   std::size_t place = 0;
   for (char c : section) {
     if (!IsPlaceholder(c)) out += c;
-    else if (place++ < shown) out += fraction[place - 1];
+    else if (place++ < shown) out += FractionDigit(fraction, place);
   }
 }
 

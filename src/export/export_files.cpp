@@ -24,10 +24,12 @@ using Outputs = std::vector<std::unique_ptr<ExportOutput>>;
 // The progress bar is repainted about 200 times over a run, however many marks there are.
 constexpr std::size_t kProgressSteps = 200;
 
-// What the options fix for the whole export: the zone, the units, UTM, the pictures' folder.
+// What the options fix for the whole export: the ellipsoid, the zone, the units, UTM, the pictures'
+// folder.
 ExportSetup SetupOf(const Session& session, const Platform& platform, const frmOutputOptions& options,
                     const frmCDT& cdt) {
   ExportSetup setup;
+  setup.ellipsoid = {session.config.ellipsoidA, session.config.ellipsoidE2, session.config.ellipsoidEp2};
   FindZoneLine(Left(options.cboProjZone, 5), "", setup.zoneLine, platform.paths.supportPath);
   setup.utmZoneText = cdt.cboUTMZone;
   setup.utmAsked = cdt.chkUTM == 1 || options.optUTM;
@@ -99,6 +101,7 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
 
   const PictureFolder pictures(setup.datasetFolder);
   MarkValues values;
+  LambertZoneConstants lambert;  // built at the first mark, kept for the others
   ParsedMarks marks(strMkData, session.supportFiles);
   for (std::size_t i = 1; i <= count; ++i) {
     progress.value = static_cast<int>(i);
@@ -110,7 +113,7 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
     record.Serial = Format(static_cast<double>(i), "0000");
     values.horizontal = HasHorizontalControl(record);
     values.vertical = HasVerticalControl(record);
-    ComputePlaneValues(setup, record, values);
+    ComputePlaneValues(setup, lambert, record, values);
     ComputeUtmValues(setup, record, values);
     ComputePictureFlags(pictures, record, values);
     for (auto& output : outputs) output->WriteMark(record, pid, values);

@@ -4,8 +4,8 @@
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
+#include "common/sort_by_column.hpp"
 #include "common/text.hpp"
-#include "geodesy/sort_by_column.hpp"
 
 namespace benchlog {
 

@@ -7,7 +7,6 @@
 #include "common/text.hpp"
 #include "geodesy/angle_text.hpp"
 #include "geodesy/angles.hpp"
-#include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
 #include "geodesy/oblique_mercator.hpp"
 #include "geodesy/transverse_mercator.hpp"
@@ -36,24 +35,29 @@ void ReadPosition(const MarkRecord& record, MarkValues& v) {
 }
 
 // Each kind has its routine; any other kind leaves the values of the mark before.
-void Project(const std::string& zoneLine, MarkValues& v) {
-  const std::string kind = ZoneKind(zoneLine);
+void Project(const ExportSetup& setup, LambertZoneConstants& lambert, MarkValues& v) {
+  const std::string& line = setup.zoneLine;
+  const Ellipsoid& ellipsoid = setup.ellipsoid;
+  const std::string kind = ZoneKind(line);
   if (kind == "LC") {
-    LambertForward(zoneLine, v.LatRadians, v.LonRadians, v.SpcNorth, v.SpcEast, v.SpcConvergence, v.SpcScale);
+    LambertForward(ellipsoid, lambert, line, v.LatRadians, v.LonRadians, v.SpcNorth, v.SpcEast, v.SpcConvergence,
+                   v.SpcScale);
   } else if (kind == "TM") {
-    TmForward(zoneLine, v.LatRadians, v.LonRadians, v.SpcNorth, v.SpcEast, v.SpcConvergence, v.SpcScale);
+    TmForward(ellipsoid, line, v.LatRadians, v.LonRadians, v.SpcNorth, v.SpcEast, v.SpcConvergence, v.SpcScale);
   } else if (kind == "OM") {
-    ObliqueForward(zoneLine, v.LatRadians, v.LonRadians, v.SpcNorth, v.SpcEast, v.SpcConvergence, v.SpcScale);
+    ObliqueForward(ellipsoid, line, v.LatRadians, v.LonRadians, v.SpcNorth, v.SpcEast, v.SpcConvergence,
+                   v.SpcScale);
   }
 }
 
 // The combined factor of an adjusted position for a grid scale: the height is the ellipsoid
 // height, or, when that reads as 0, the orthometric height plus the geoid height.
-std::string CombinedFactorText(const MarkRecord& record, double latitude, double scale) {
+std::string CombinedFactorText(const Ellipsoid& ellipsoid, const MarkRecord& record, double latitude,
+                               double scale) {
   double height = Val(record.EllipHeight.View());
   if (height == 0) height = Val(record.OrthoHeight.View()) + Val(record.GeoidHeight.View());
   double elevationFactor = 0, combined = 0;
-  CombinedFactor(latitude, height, scale, elevationFactor, combined);
+  CombinedFactor(ellipsoid, latitude, height, scale, elevationFactor, combined);
   return Format(combined, "0.00000000");
 }
 
@@ -65,16 +69,17 @@ std::string CoordinateText(std::string text) {
   return text;
 }
 
-void ComputePlaneValues(const ExportSetup& setup, const MarkRecord& record, MarkValues& v) {
+void ComputePlaneValues(const ExportSetup& setup, LambertZoneConstants& lambert, const MarkRecord& record,
+                        MarkValues& v) {
   ReadPosition(record, v);
-  Project(setup.zoneLine, v);
+  Project(setup, lambert, v);
   const bool adjusted = record.PosSource == "A";
   const double north = setup.coordinateFactor * v.SpcNorth;
   const double east = setup.coordinateFactor * v.SpcEast;
   // Adjusted positions to the millimetre; the blanks of the patterns stand behind the number.
   v.NorthText = CoordinateText(Format(north, adjusted ? "#######0.000 " : "#######0    "));
   v.EastText = CoordinateText(Format(east, adjusted ? "#######0.000" : "#######0     "));
-  if (adjusted) v.SpcCgfText = CombinedFactorText(record, v.LatRadians, v.SpcScale);
+  if (adjusted) v.SpcCgfText = CombinedFactorText(setup.ellipsoid, record, v.LatRadians, v.SpcScale);
 }
 
 void ComputeUtmValues(const ExportSetup& setup, const MarkRecord& record, MarkValues& v) {
@@ -82,9 +87,10 @@ void ComputeUtmValues(const ExportSetup& setup, const MarkRecord& record, MarkVa
   if (!setup.utmAsked || zone == 0) return;
   std::string zoneLine;
   UtmZoneLine(zoneLine, v.LonRadians, zone);
-  TmForward(zoneLine, v.LatRadians, v.LonRadians, v.UtmNorth, v.UtmEast, v.UtmConvergence, v.UtmScale);
+  TmForward(setup.ellipsoid, zoneLine, v.LatRadians, v.LonRadians, v.UtmNorth, v.UtmEast, v.UtmConvergence,
+            v.UtmScale);
   v.UtmScaleText = Format(v.UtmScale, "0.00000000");
-  if (record.PosSource == "A") v.UtmCgfText = CombinedFactorText(record, v.LatRadians, v.UtmScale);
+  if (record.PosSource == "A") v.UtmCgfText = CombinedFactorText(setup.ellipsoid, record, v.LatRadians, v.UtmScale);
   RadToDms(v.UtmConvergence, v.UtmConvText, kDmsBlank, 1, true, false);
   const char* pattern = v.horizontal ? "#,###,##0.000" : "#,###,##0";
   v.UtmNorthText = Format(v.UtmNorth, pattern);

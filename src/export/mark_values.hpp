@@ -12,11 +12,14 @@
 
 #include "dataset/picture_folder.hpp"
 #include "export/parser/mark_record.hpp"
+#include "geodesy/ellipsoid.hpp"
+#include "geodesy/lambert.hpp"
 
 namespace benchlog {
 
 // What the options of an export fix for all its marks.
 struct ExportSetup {
+  Ellipsoid ellipsoid;           // the configuration's a, e2 and ep2
   std::string zoneLine;          // the zone's line of "Zones.txt"; "" when the zone is not there
   double coordinateFactor = 1;   // plane metres to the listing's unit (grid feet or 1)
   double elevationFactor = 1;    // always 1: elevations in feet are made by the vertical listing
@@ -46,10 +49,12 @@ struct MarkValues {
 };
 
 // The position texts and numbers, the projection by the zone line's kind, the coordinate texts
-// and, for an adjusted position, the SPC combined factor. Throws RuntimeFailure "Invalid
+// and, for an adjusted position, the SPC combined factor. `lambert` holds the Lambert zone's
+// constants from one mark to the next and is owned by the export run. Throws RuntimeFailure "Invalid
 // procedure call" when a coordinate text does not fit its 12 characters (a value of 8 integer
 // digits with decimals, or 9 digits without), and the projections' failures.
-void ComputePlaneValues(const ExportSetup& setup, const MarkRecord& record, MarkValues& values);
+void ComputePlaneValues(const ExportSetup& setup, LambertZoneConstants& lambert, const MarkRecord& record,
+                        MarkValues& values);
 
 // The UTM values, when asked for and the zone text rounds to a zone that is not 0: the mark is
 // projected in that zone (whatever its longitude), texts by "#,###,##0.000" for horizontal

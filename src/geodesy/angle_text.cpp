@@ -87,8 +87,11 @@ void RadToDms(double angle, std::string& text, std::int16_t formatCode, std::int
   const int places = std::max<int>(0, decimals);
   const std::string nines(static_cast<std::size_t>(places), '9');
   const float threshold = static_cast<float>(Val("59." + nines + "5"));
-  if (seconds >= threshold) {
+  std::string s = SecondsText(seconds, places);
+  // Single-precision seconds just below the threshold can still be written as 60: the text decides.
+  if (seconds >= threshold || Val(s) >= 60.0) {
     seconds = 0.0f;
+    s = SecondsText(seconds, places);
     minutes = AddInt16(minutes, 1);
     if (minutes == 60) {
       minutes = 0;
@@ -99,7 +102,6 @@ void RadToDms(double angle, std::string& text, std::int16_t formatCode, std::int
 
   const std::string d = DegreesText(sign, degrees, pad, zeroFill);
   const std::string m = Format(minutes, "00");
-  const std::string s = SecondsText(seconds, places);
   switch (formatCode) {
     case kDmsPointed: text = d + "." + m + ReplaceAll(s, ".", ""); break;
     case kDmsBlank: text = d + " " + m + " " + s; break;

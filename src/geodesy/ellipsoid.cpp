@@ -6,32 +6,15 @@
 #include "geodesy/checked_math.hpp"
 
 namespace benchlog {
-namespace {
 
-Ellipsoid& Current() {
-  static Ellipsoid current;
-  return current;
-}
-
-}  // namespace
-
-Ellipsoid EllipsoidFromConfiguration(const Configuration& config) {
-  return {config.ellipsoidA, config.ellipsoidE2, config.ellipsoidEp2};
-}
-
-const Ellipsoid& CurrentEllipsoid() { return Current(); }
-
-void SetCurrentEllipsoid(const Ellipsoid& ellipsoid) { Current() = ellipsoid; }
-
-double IsometricLatitude(double sinLatitude) {
+double IsometricLatitude(const Ellipsoid& ellipsoid, double sinLatitude) {
   const double s = sinLatitude;
-  const double e = std::sqrt(CurrentEllipsoid().e2);
+  const double e = std::sqrt(ellipsoid.e2);
   return (Logarithm(Quotient(1.0 + s, 1.0 - s)) - e * Logarithm(Quotient(1.0 + e * s, 1.0 - e * s))) / 2.0;
 }
 
-void CombinedFactor(double latitude, double height, double scaleFactor, double& elevationFactor,
-                    double& combinedFactor) {
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
+void CombinedFactor(const Ellipsoid& ellipsoid, double latitude, double height, double scaleFactor,
+                    double& elevationFactor, double& combinedFactor) {
   const double sinLat = std::sin(latitude);
   const double w = std::sqrt(1.0 - ellipsoid.e2 * sinLat * sinLat);
   const double primeVertical = ellipsoid.a / w;

@@ -27,8 +27,8 @@ double InQuadrant(double t, double y, double d) {
   return t;
 }
 
-void Forward(double lat1, double lon1, double& lat2, double& lon2, double azimuth, double s) {
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
+void Forward(const Ellipsoid& ellipsoid, double lat1, double lon1, double& lat2, double& lon2, double azimuth,
+             double s) {
   const double n = PrimeVerticalRadius(ellipsoid, lat1);
   const double sinLat = std::sin(lat1);
   const double cosLat = std::cos(lat1);
@@ -52,9 +52,8 @@ void Forward(double lat1, double lon1, double& lat2, double& lon2, double azimut
   lon2 = lon1 + Quotient(-y2, x2);
 }
 
-void Inverse(double lat1, double lon1, double lat2, double lon2, double& forwardAzimuth, double& backAzimuth,
-             double& distance) {
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
+void Inverse(const Ellipsoid& ellipsoid, double lat1, double lon1, double lat2, double lon2, double& forwardAzimuth,
+             double& backAzimuth, double& distance) {
   const double n1 = PrimeVerticalRadius(ellipsoid, lat1);
   const double n2 = PrimeVerticalRadius(ellipsoid, lat2);
   const double dl = lon2 - lon1;
@@ -83,26 +82,26 @@ void Inverse(double lat1, double lon1, double lat2, double lon2, double& forward
 
 }  // namespace
 
-void GeographicForward(double lat1, double lon1, double& lat2, double& lon2, double forwardAzimuth,
-                       double& /*backAzimuth*/, double distance, Ui& ui) {
+void GeographicForward(const Ellipsoid& ellipsoid, double lat1, double lon1, double& lat2, double& lon2,
+                       double forwardAzimuth, double& /*backAzimuth*/, double distance, Ui& ui) {
   try {
-    Forward(lat1, lon1, lat2, lon2, forwardAzimuth, distance);
+    Forward(ellipsoid, lat1, lon1, lat2, lon2, forwardAzimuth, distance);
   } catch (const RuntimeFailure& failure) {
     ui.MsgBox(failure.description, MsgButtons::Ok, MsgIcon::None, "Geographic Forward");
   }
 }
 
-void GeographicInverse(double lat1, double lon1, double lat2, double lon2, double& forwardAzimuth,
-                       double& backAzimuth, double& distance, Ui& ui) {
+void GeographicInverse(const Ellipsoid& ellipsoid, double lat1, double lon1, double lat2, double lon2,
+                       double& forwardAzimuth, double& backAzimuth, double& distance, Ui& ui) {
   try {
-    Inverse(lat1, lon1, lat2, lon2, forwardAzimuth, backAzimuth, distance);
+    Inverse(ellipsoid, lat1, lon1, lat2, lon2, forwardAzimuth, backAzimuth, distance);
   } catch (const RuntimeFailure& failure) {
     ui.MsgBox(failure.description, MsgButtons::Ok, MsgIcon::None, "Geographic Inverse");
   }
 }
 
-void GeodeticToCartesian(double latitude, double longitude, double height, double& x, double& y, double& z) {
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
+void GeodeticToCartesian(const Ellipsoid& ellipsoid, double latitude, double longitude, double height, double& x,
+                         double& y, double& z) {
   const double s = std::sin(latitude);
   const double n = ellipsoid.a / std::sqrt(1.0 - ellipsoid.e2 * s * s);
   x = (n + height) * std::cos(latitude) * std::cos(longitude);

@@ -10,18 +10,13 @@
 namespace benchlog {
 namespace {
 
-LambertZoneConstants& Cache() {
-  static LambertZoneConstants cache;
-  return cache;
-}
-
 double W(const Ellipsoid& ellipsoid, double latitude) {
   const double s = std::sin(latitude);
   return std::sqrt(1.0 - ellipsoid.e2 * s * s);
 }
 
 // Steps 2 to 6 of a rebuild; false when a latitude field is 0 and the rebuild stops half way.
-bool Rebuild(std::string_view line, LambertZoneConstants& zone) {
+bool Rebuild(const Ellipsoid& ellipsoid, std::string_view line, LambertZoneConstants& zone) {
   zone.centralMeridian = ZoneAngleField(line, 12, 6);
   zone.eb = ZoneField(line, 19, 12);
   zone.nb = ZoneField(line, 32, 12);
@@ -30,10 +25,9 @@ bool Rebuild(std::string_view line, LambertZoneConstants& zone) {
   const double phib = ZoneAngleField(line, 57, 5);
   if (phi1 == 0.0 || phi2 == 0.0 || phib == 0.0) return false;
 
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
-  const double q1 = IsometricLatitude(std::sin(phi1));
-  const double q2 = IsometricLatitude(std::sin(phi2));
-  const double qb = IsometricLatitude(std::sin(phib));
+  const double q1 = IsometricLatitude(ellipsoid, std::sin(phi1));
+  const double q2 = IsometricLatitude(ellipsoid, std::sin(phi2));
+  const double qb = IsometricLatitude(ellipsoid, std::sin(phib));
   const double w1 = W(ellipsoid, phi1);
   const double w2 = W(ellipsoid, phi2);
   const double s0 = Quotient(Logarithm((std::cos(phi1) * w2) / (std::cos(phi2) * w1)), q2 - q1);
@@ -45,23 +39,18 @@ bool Rebuild(std::string_view line, LambertZoneConstants& zone) {
 
 }  // namespace
 
-const LambertZoneConstants& LambertZone() { return Cache(); }
-
-void ResetLambertZone() { Cache() = LambertZoneConstants{}; }
-
-void LambertForward(std::string_view zoneLine, double latitude, double longitude, double& north, double& east,
-                    double& convergence, double& scale) {
+void LambertForward(const Ellipsoid& ellipsoid, LambertZoneConstants& zone, std::string_view zoneLine,
+                    double latitude, double longitude, double& north, double& east, double& convergence,
+                    double& scale) {
   if (ZoneKind(zoneLine) != "LC") return;
-  LambertZoneConstants& zone = Cache();
   const std::int16_t number = CInt(ZoneField(zoneLine, 7, 4));
   if (number != zone.zoneNumber) {
     zone.zoneNumber = number;  // stored first: a rebuild that stops leaves the old constants behind
-    if (!Rebuild(zoneLine, zone)) return;
+    if (!Rebuild(ellipsoid, zoneLine, zone)) return;
   }
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
   const double s0 = zone.sinCentralParallel;
   const double g = (zone.centralMeridian - longitude) * s0;
-  const double q = IsometricLatitude(std::sin(latitude));
+  const double q = IsometricLatitude(ellipsoid, std::sin(latitude));
   const double r = zone.k / std::exp(q * s0);
   north = zone.rb + zone.nb - r * std::cos(g);
   east = r * std::sin(g) + zone.eb;

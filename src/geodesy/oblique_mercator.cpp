@@ -9,8 +9,8 @@
 
 namespace benchlog {
 
-void ObliqueForward(std::string_view zoneLine, double latitude, double longitude, double& north, double& east,
-                    double& convergence, double& scale) {
+void ObliqueForward(const Ellipsoid& ellipsoid, std::string_view zoneLine, double latitude, double longitude,
+                    double& north, double& east, double& convergence, double& scale) {
   if (ZoneKind(zoneLine) != "OM") return;
   const double b = ZoneField(zoneLine, 19, 14);
   const double c = ZoneField(zoneLine, 34, 14);
@@ -24,7 +24,7 @@ void ObliqueForward(std::string_view zoneLine, double latitude, double longitude
   const double lambda0 = RadOfDeg(kObliqueOriginLongitudeDegrees);
 
   const double l = (longitude - lambda0) * b;
-  const double p = b * IsometricLatitude(std::sin(latitude)) + c;
+  const double p = b * IsometricLatitude(ellipsoid, std::sin(latitude)) + c;
   const double sh = SinH(p);
   const double ch = CosH(p);
   const double sinL = std::sin(l);
@@ -37,7 +37,7 @@ void ObliqueForward(std::string_view zoneLine, double latitude, double longitude
   east = std::cos(rot) * v + std::sin(rot) * u + eb;
   convergence = std::atan(Quotient(sinG - cosG * sh * sinL, cosG * ch * cosL)) - rot;
   const double s = std::sin(latitude);
-  const double w = std::sqrt(1.0 - CurrentEllipsoid().e2 * s * s);
+  const double w = std::sqrt(1.0 - ellipsoid.e2 * s * s);
   scale = Quotient(w * k0 * std::cos(u / a), cosL * std::cos(latitude));
 }
 

@@ -10,6 +10,8 @@
 // degrees west, that of Alaska zone 5001, the one oblique zone.
 #include <string_view>
 
+#include "geodesy/ellipsoid.hpp"
+
 namespace benchlog {
 
 inline constexpr double kObliqueOriginLongitudeDegrees = 101.51383956;
@@ -17,7 +19,7 @@ inline constexpr double kObliqueOriginLongitudeDegrees = 101.51383956;
 // Grid coordinates (metres), convergence (radians) and point scale of (`latitude`, `longitude`)
 // (radians, longitude positive west). Does nothing unless the line's kind is "OM". Throws
 // RuntimeFailure at the poles.
-void ObliqueForward(std::string_view zoneLine, double latitude, double longitude, double& north, double& east,
-                    double& convergence, double& scale);
+void ObliqueForward(const Ellipsoid& ellipsoid, std::string_view zoneLine, double latitude, double longitude,
+                    double& north, double& east, double& convergence, double& scale);
 
 }  // namespace benchlog

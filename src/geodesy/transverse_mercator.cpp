@@ -27,13 +27,16 @@ TmZone ReadZone(std::string_view line) {
           ZoneField(line, 60, 12), (degrees + minutes / 60.0) / (180.0 / kPi)};
 }
 
-double PrimeVertical(double k0, double latitude) {
-  const Ellipsoid& ellipsoid = CurrentEllipsoid();
+double PrimeVertical(const Ellipsoid& ellipsoid, double k0, double latitude) {
   const double s = std::sin(latitude);
   return k0 * ellipsoid.a / std::sqrt(1.0 - ellipsoid.e2 * s * s);
 }
 
 double Squared(double x) { return x * x; }
+
+// The longitude difference within a half turn either way (unchanged when it already is), so that
+// a longitude east of Greenwich projects alike given as a negative value or as 180 to 360.
+double WithinHalfTurn(double difference) { return std::remainder(difference, kTwoPi); }
 
 }  // namespace
 
@@ -45,20 +48,20 @@ double MeridionalArcAngle(double latitude) {
                         (-0.005048250776 + 2.1259204e-05 * c2 - 1.11423e-07 * c4 + 6.26e-10 * c6);
 }
 
-void TmForward(std::string_view zoneLine, double latitude, double longitude, double& north, double& east,
-               double& convergence, double& scale) {
+void TmForward(const Ellipsoid& ellipsoid, std::string_view zoneLine, double latitude, double longitude,
+               double& north, double& east, double& convergence, double& scale) {
   if (!IsTransverseMercator(zoneLine)) return;
   const TmZone zone = ReadZone(zoneLine);
   const double cosLat = std::cos(latitude);
-  const double ets = CurrentEllipsoid().ep2 * cosLat * cosLat;
+  const double ets = ellipsoid.ep2 * cosLat * cosLat;
   const double t = std::tan(latitude);
   const double t2 = t * t;
   const double t4 = t2 * t2;
-  const double l = (longitude - zone.centralMeridian) * cosLat;
+  const double l = WithinHalfTurn(longitude - zone.centralMeridian) * cosLat;
   const double l2 = l * l;
 
   const double arc = MeridionalArcAngle(latitude) * zone.k0 * kRectifyingRadius;
-  const double rn = PrimeVertical(zone.k0, latitude);
+  const double rn = PrimeVertical(ellipsoid, zone.k0, latitude);
 
   const double a2 = rn * t / 2.0;
   const double a4 = (5.0 - t2 + (4.0 * ets + 9.0) * ets) / 12.0;
@@ -81,8 +84,8 @@ void TmForward(std::string_view zoneLine, double latitude, double longitude, dou
   scale = Finite(zone.k0 * (1.0 + l2 * f2 * (1.0 + l2 * f4)));
 }
 
-void TmInverse(std::string_view zoneLine, double& latitude, double& longitude, double north, double east,
-               double& convergence, double& scale) {
+void TmInverse(const Ellipsoid& ellipsoid, std::string_view zoneLine, double& latitude, double& longitude,
+               double north, double east, double& convergence, double& scale) {
   if (!IsTransverseMercator(zoneLine)) return;
   const TmZone zone = ReadZone(zoneLine);
   const double omega = Quotient(north - zone.falseNorthing + zone.arcAtOrigin, zone.k0 * kRectifyingRadius);
@@ -94,10 +97,10 @@ void TmInverse(std::string_view zoneLine, double& latitude, double& longitude, d
   const double t = std::sin(f) / std::cos(f);
   const double t2 = t * t;
   const double t4 = t2 * t2;
-  const double rn = PrimeVertical(zone.k0, f);
+  const double rn = PrimeVertical(ellipsoid, zone.k0, f);
   const double q = (east - zone.falseEasting) / rn;
   const double q2 = q * q;
-  const double ets = CurrentEllipsoid().ep2 * Squared(std::cos(f));
+  const double ets = ellipsoid.ep2 * Squared(std::cos(f));
 
   const double b2 = -t * (1.0 + ets) / 2.0;
   const double b4 = -(5.0 + 3.0 * t2 + (1.0 - 9.0 * t2) * ets - 4.0 * ets * ets) / 12.0;

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "app/main_window.hpp"
-#include "geodesy/ellipsoid.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
 
@@ -41,9 +40,9 @@ TEST_F(LoadStepTest, FirstRunDefaults) {
   EXPECT_TRUE(session.menu["mnuExport"].visible);
   EXPECT_TRUE(session.menu["mnuExport"].enabled);
   EXPECT_TRUE(fake.ui.messages.empty());
-  // The geodetic computations work on the configured ellipsoid.
-  EXPECT_DOUBLE_EQ(CurrentEllipsoid().a, 6378137.0);
-  EXPECT_DOUBLE_EQ(CurrentEllipsoid().e2, 0.00669438002290);
+  // The configured ellipsoid, which the export reads.
+  EXPECT_DOUBLE_EQ(session.config.ellipsoidA, 6378137.0);
+  EXPECT_DOUBLE_EQ(session.config.ellipsoidE2, 0.00669438002290);
 }
 
 TEST_F(LoadStepTest, SavedStateIsRead) {

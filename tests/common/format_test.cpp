@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 #include "common/format.hpp"
 #include "test_support.hpp"
@@ -69,6 +70,18 @@ TEST(Format, RoundsTheFifteenDigitFormHalfAwayFromZero) {
       {2.5, "0", "3"}, {-2.5, "0", "-3"}, {0.1 + 0.2, "0.0000000000000000", "0.3000000000000000"},
       {1.0 / 3.0, "0.000000000000000000", "0.333333333333333000"},
   });
+}
+
+// A pattern with more places than a double has digits writes the digits, then zeros.
+TEST(Format, ThousandsOfPlaces) {
+  for (std::size_t places : {509u, 600u, 5000u, 32767u}) {
+    const std::string zeros = "0." + std::string(places, '0');
+    EXPECT_EQ(Format(1.0 / 3.0, zeros), "0.333333333333333" + std::string(places - 15, '0')) << places;
+    EXPECT_EQ(Format(-2.5e-300, zeros), "-0." + std::string(299, '0') + "25" + std::string(places - 301, '0'))
+        << places;
+    EXPECT_EQ(Format(1.5e300, zeros), "15" + std::string(299, '0') + "." + std::string(places, '0')) << places;
+    EXPECT_EQ(Format(0.5, "#." + std::string(places, '#')), ".5") << places;
+  }
 }
 
 TEST(Format, ANonFiniteValueOverflows) {

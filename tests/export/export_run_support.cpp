@@ -5,8 +5,6 @@
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "export/export_commands.hpp"
-#include "geodesy/ellipsoid.hpp"
-#include "geodesy/lambert.hpp"
 #include "session/frm_select_points.hpp"
 
 namespace benchlog::testing {
@@ -26,12 +24,11 @@ std::string ListingFixture(const std::string& name) {
 ExportRunTest::ExportRunTest() : fake(std::string(BENCHLOG_SOURCE_DIR) + "/support") {}
 
 void ExportRunTest::SetUp() {
-  SetCurrentEllipsoid({6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)});
-  ResetLambertZone();
+  session.config.ellipsoidA = 6378137.0;
+  session.config.ellipsoidE2 = 0.00669438002290;
+  session.config.ellipsoidEp2 = 0.00669438002290 / (1 - 0.00669438002290);
   fake.progress.observer = nullptr;  // the history of every refresh is not needed here
 }
-
-void ExportRunTest::TearDown() { ResetLambertZone(); }
 
 void ExportRunTest::OpenDataset(const std::string& name) {
   session.dataset.DatFile = folder.Write(name, ListingFixture(name));

@@ -23,7 +23,6 @@ class ExportRunTest : public ::testing::Test {
  protected:
   ExportRunTest();
   void SetUp() override;
-  void TearDown() override;
 
   // Copies the dataset into the folder as the session's dataset, with the photos and sketches the
   // sample has for its marks ("<PID>ph.jpg", "<PID>sk.jpg", empty files).

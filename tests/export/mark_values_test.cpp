@@ -12,7 +12,6 @@
 #include "export/mark_values.hpp"
 #include "fakes/temp_folder.hpp"
 #include "geodesy/angle_text.hpp"
-#include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
 #include "geodesy/zone_table.hpp"
 
@@ -21,11 +20,13 @@ namespace {
 
 class MarkValuesTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    SetCurrentEllipsoid({6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)});
-    ResetLambertZone();
+  // GRS 80, as the shipped configuration has it.
+  static ExportSetup Grs80Setup() {
+    ExportSetup setup;
+    setup.ellipsoid = {6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)};
+    return setup;
   }
-  void TearDown() override { ResetLambertZone(); }
+  LambertZoneConstants lambert;
 
   static std::string ZoneLine(const std::string& key) {
     std::string line;
@@ -73,7 +74,7 @@ TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
       {"DH7198", "273,230.900", "617,561.728", "1.00001324", "0 03 03.9", 133.367, "0.99999233", "4,009,588.032",
        "687,739.317", "1.00003429", "  1 14 03.3", "1.00001338"},
   };
-  ExportSetup setup;
+  ExportSetup setup = Grs80Setup();
   setup.zoneLine = ZoneLine("NC   ");
   setup.utmAsked = true;
   setup.utmZoneText = "17";
@@ -81,7 +82,7 @@ TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
     const MarkRecord record = Mark(c.pid);
     MarkValues values;
     values.horizontal = HasHorizontalControl(record);
-    ComputePlaneValues(setup, record, values);
+    ComputePlaneValues(setup, lambert, record, values);
     ComputeUtmValues(setup, record, values);
     EXPECT_EQ(Format(values.SpcNorth, "#,###,##0.000"), c.north) << c.pid;
     EXPECT_EQ(Format(values.SpcEast, "#,###,##0.000"), c.east) << c.pid;
@@ -90,14 +91,14 @@ TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
     RadToDms(values.SpcConvergence, convergence, kDmsBlank, 1, false, false);
     EXPECT_EQ(convergence, c.convergence) << c.pid;
     double elevationFactor = 0, combined = 0;
-    CombinedFactor(values.LatRadians, c.height, values.SpcScale, elevationFactor, combined);
+    CombinedFactor(setup.ellipsoid, values.LatRadians, c.height, values.SpcScale, elevationFactor, combined);
     EXPECT_EQ(values.SpcCgfText, Format(combined, "0.00000000")) << c.pid;
     EXPECT_NEAR(Val(values.SpcCgfText), Val(c.spcCgf), 5e-8) << c.pid;
     EXPECT_EQ(values.UtmNorthText, c.utmNorth) << c.pid;
     EXPECT_EQ(values.UtmEastText, c.utmEast) << c.pid;
     EXPECT_EQ(values.UtmScaleText, c.utmScale) << c.pid;
     EXPECT_EQ(values.UtmConvText, c.utmConvergence) << c.pid;
-    CombinedFactor(values.LatRadians, c.height, values.UtmScale, elevationFactor, combined);
+    CombinedFactor(setup.ellipsoid, values.LatRadians, c.height, values.UtmScale, elevationFactor, combined);
     EXPECT_EQ(values.UtmCgfText, Format(combined, "0.00000000")) << c.pid;
     EXPECT_NEAR(Val(values.UtmCgfText), Val(c.utmCgf), 5e-8) << c.pid;
   }
@@ -124,7 +125,7 @@ TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
     record.LonHemi = c.lonHemi;
     record.OrthoHeight = "171.204";
     MarkValues values;
-    ComputePlaneValues(ExportSetup{}, record, values);
+    ComputePlaneValues(ExportSetup{}, lambert, record, values);
     EXPECT_EQ(values.LatText, c.latText);
     EXPECT_EQ(values.LonText, c.lonText);
     EXPECT_NEAR(values.LatDeg, c.latDeg, 1e-9) << c.latitude;
@@ -159,19 +160,19 @@ TEST_F(MarkValuesTest, CoordinateTextPatterns) {
     MarkValues values;
     values.SpcNorth = c.north;  // metres
     values.SpcEast = c.east;
-    ExportSetup setup;
+    ExportSetup setup = Grs80Setup();
     setup.zoneLine = "";
     setup.coordinateFactor = c.factor;
     if (!c.northText) {
       try {
-        ComputePlaneValues(setup, record, values);
+        ComputePlaneValues(setup, lambert, record, values);
         ADD_FAILURE() << c.north << " " << c.east << " fit";
       } catch (const RuntimeFailure& failure) {
         EXPECT_EQ(failure.number, kInvalidProcedureCall);
       }
       continue;
     }
-    ComputePlaneValues(setup, record, values);
+    ComputePlaneValues(setup, lambert, record, values);
     EXPECT_EQ(values.NorthText, c.northText) << c.north;
     EXPECT_EQ(values.EastText, c.eastText) << c.east;
   }
@@ -190,9 +191,9 @@ TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
     record.Longitude = c.longitude;
     MarkValues values;
     values.SpcNorth = values.SpcEast = values.SpcScale = -1;
-    ExportSetup setup;
+    ExportSetup setup = Grs80Setup();
     setup.zoneLine = ZoneLine(c.zone);
-    ComputePlaneValues(setup, record, values);
+    ComputePlaneValues(setup, lambert, record, values);
     EXPECT_NE(values.SpcNorth, -1) << c.zone;
     EXPECT_NE(values.SpcEast, -1) << c.zone;
     EXPECT_NEAR(values.SpcScale, 1, 0.001) << c.zone;
@@ -200,17 +201,17 @@ TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
 }
 
 TEST_F(MarkValuesTest, FactorsAndUtmStayWhenAMarkHasNone) {
-  ExportSetup setup;
+  ExportSetup setup = Grs80Setup();
   setup.zoneLine = ZoneLine("NC   ");
   MarkValues values;
   const MarkRecord adjusted = Mark("DH7190");
-  ComputePlaneValues(setup, adjusted, values);
+  ComputePlaneValues(setup, lambert, adjusted, values);
   ComputeUtmValues(setup, adjusted, values);  // not asked for
   const std::string dh7190 = values.SpcCgfText;
   EXPECT_NEAR(Val(dh7190), 0.99995594, 5e-8);
   EXPECT_EQ(values.UtmNorthText, "");
   // A scaled position computes no combined factor: the one before stays.
-  ComputePlaneValues(setup, Mark("FY0871"), values);
+  ComputePlaneValues(setup, lambert, Mark("FY0871"), values);
   EXPECT_EQ(values.SpcCgfText, dh7190);
 
   // UTM asked for, but a zone text that reads as 0 computes nothing.

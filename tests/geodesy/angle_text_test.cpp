@@ -5,6 +5,7 @@
 #include "geodesy/angle_text.hpp"
 #include "geodesy/angles.hpp"
 #include "geodesy/format_padded.hpp"
+#include "geodesy_test_support.hpp"
 
 namespace benchlog {
 namespace {
@@ -30,21 +31,27 @@ TEST(RadToDms, FiveFormatCodes) {
   EXPECT_EQ(ToDms(angle, 6, 5), "untouched");
 }
 
-TEST(RadToDms, RolloverThresholdsFollowTheDecimals) {
-  struct Case { double degrees, minutes, seconds; int decimals; const char* expected; };
-  const Case cases[] = {
-      {38, 59, 59.99999, 4, "39 00 00.0000"},  // threshold 59.99995
-      {38, 59, 59.99994, 4, "38 59 59.9999"},
-      {359, 59, 59.9999, 2, "0 00 00.00"},     // wraps, no 360 in the text
-      {360, 0, 0, 0, "0 00 00"},                // a true 360 00 00 wraps as well
-      {12, 34, 59.6, 0, "12 35 00"},           // threshold 59.5
-      {12, 34, 59.4, 0, "12 34 59"},
-      {10, 0, 59.96, 1, "10 01 00.0"},         // threshold 59.95
-      {10, 0, 59.94, 1, "10 00 59.9"},
-      {0, 0, 0, 3, "0 00 00.000"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(ToDms(Dms(c.degrees, c.minutes, c.seconds), 2, c.decimals), c.expected) << c.expected;
+// Around the rollover threshold of every number of decimals: the text never shows 60 seconds, and
+// DmsToRad reads back what was written.
+TEST(RadToDms, RollsOverWhatWouldBeWrittenAsSixtySeconds) {
+  const auto rows = testing::ReadVectors("rad_to_dms_rollover.txt");
+  ASSERT_EQ(rows.size(), 27u);
+  for (const auto& r : rows) {
+    std::string text = ToDms(Dms(std::stod(r[0]), std::stod(r[1]), std::stod(r[2])), 3, std::stoi(r[3]));
+    EXPECT_EQ(text, r[4]) << r[0] << " " << r[1] << " " << r[2] << " with " << r[3];
+    double radians = 0;
+    std::string error;
+    DmsToRad(text, radians, error);
+    EXPECT_EQ(error, "") << r[4];
+  }
+  // The two angles that were written with 60 seconds.
+  EXPECT_EQ(ToDms(0.18063915349451318, 2, 0), "10 21 00");
+  EXPECT_EQ(ToDms(0.18064155331705636, 2, 2), "10 21 00.00");
+}
+
+// Places beyond the single's seven digits are zeros, however many are asked for.
+TEST(RadToDms, ThousandsOfDecimals) {
+  EXPECT_EQ(ToDms(0.7, 2, 32767), "40 06 25.36437" + std::string(32767 - 5, '0'));
 }
 
 TEST(RadToDms, SignPadAndZeroFill) {

@@ -10,40 +10,28 @@ namespace {
 
 using testing::GeodesyTest;
 
-TEST(Ellipsoid, TakesTheConfiguredValues) {
-  Configuration config;
-  config.ellipsoidA = 6378206.4;
-  config.ellipsoidE2 = 0.006768658;
-  config.ellipsoidEp2 = 0.0068147849;
-  const Ellipsoid ellipsoid = EllipsoidFromConfiguration(config);
-  EXPECT_EQ(ellipsoid.a, 6378206.4);
-  EXPECT_EQ(ellipsoid.e2, 0.006768658);
-  EXPECT_EQ(ellipsoid.ep2, 0.0068147849);
-}
-
 TEST_F(GeodesyTest, IsometricLatitude) {
-  EXPECT_EQ(IsometricLatitude(0.0), 0.0);
+  EXPECT_EQ(IsometricLatitude(ellipsoid, 0.0), 0.0);
   // 45 degrees on GRS 80: asinh(tan 45) - e atanh(e sin 45).
-  EXPECT_NEAR(IsometricLatitude(std::sin(RadOfDeg(45))), 0.876634653411382, 1e-15);
-  EXPECT_NEAR(IsometricLatitude(-std::sin(RadOfDeg(45))), -0.876634653411382, 1e-15);
-  EXPECT_THROW(IsometricLatitude(1.0), RuntimeFailure);  // the pole: no guard
+  EXPECT_NEAR(IsometricLatitude(ellipsoid, std::sin(RadOfDeg(45))), 0.876634653411382, 1e-15);
+  EXPECT_NEAR(IsometricLatitude(ellipsoid, -std::sin(RadOfDeg(45))), -0.876634653411382, 1e-15);
+  EXPECT_THROW(IsometricLatitude(ellipsoid, 1.0), RuntimeFailure);  // the pole: no guard
 }
 
 TEST_F(GeodesyTest, IsometricLatitudeOfASphere) {
-  SetCurrentEllipsoid({6371000.0, 0.0, 0.0});
-  EXPECT_NEAR(IsometricLatitude(0.5), std::atanh(0.5), 1e-15);
+  EXPECT_NEAR(IsometricLatitude({6371000.0, 0.0, 0.0}, 0.5), std::atanh(0.5), 1e-15);
 }
 
 TEST_F(GeodesyTest, CombinedFactor) {
   // At 45 degrees the Euler radius in azimuth 45 is 2 M N / (M + N) = 6378092.00754 m.
   double elevation = 0, combined = 0;
-  CombinedFactor(RadOfDeg(45), 100.0, 0.9999, elevation, combined);
+  CombinedFactor(ellipsoid, RadOfDeg(45), 100.0, 0.9999, elevation, combined);
   EXPECT_NEAR(elevation, 1.0 - 100.0 / (6378092.00754 + 100.0), 1e-13);
   EXPECT_NEAR(combined, elevation * 0.9999, 1e-15);
-  CombinedFactor(RadOfDeg(45), 0.0, 0.99995, elevation, combined);
+  CombinedFactor(ellipsoid, RadOfDeg(45), 0.0, 0.99995, elevation, combined);
   EXPECT_EQ(elevation, 1.0);
   EXPECT_EQ(combined, 0.99995);
-  CombinedFactor(RadOfDeg(10), -30.0, 1.0, elevation, combined);
+  CombinedFactor(ellipsoid, RadOfDeg(10), -30.0, 1.0, elevation, combined);
   EXPECT_GT(elevation, 1.0);  // below the ellipsoid a distance grows
 }
 

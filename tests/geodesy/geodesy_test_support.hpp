@@ -24,11 +24,8 @@ inline Ellipsoid Grs80() {
 
 class GeodesyTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    SetCurrentEllipsoid(Grs80());
-    ResetLambertZone();
-  }
-  void TearDown() override { ResetLambertZone(); }
+  Ellipsoid ellipsoid = Grs80();
+  LambertZoneConstants lambert;
 };
 
 inline std::string SupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }

@@ -12,6 +12,7 @@ namespace benchlog {
 namespace {
 
 using testing::GeodesyTest;
+using testing::Grs80;
 using testing::ReadVectors;
 using testing::ScriptedUi;
 using testing::Worst;
@@ -20,7 +21,7 @@ constexpr double kArcSecond = 3.14159265358979 / 180 / 3600;
 
 // Ground distance in metres between two positions a few centimetres apart.
 double Separation(double lat1, double lon1, double lat2, double lon2) {
-  const Ellipsoid e = CurrentEllipsoid();
+  const Ellipsoid e = Grs80();
   const double s = std::sin(lat1);
   const double w = std::sqrt(1 - e.e2 * s * s);
   const double meridian = e.a * (1 - e.e2) / (w * w * w);
@@ -36,7 +37,8 @@ double AngleGap(double a, double b) {
 TEST_F(GeodesyTest, InverseOfOnePointKeepsTheCallersAzimuths) {
   ScriptedUi ui;
   double forward = 123, back = 456, distance = -1;
-  GeographicInverse(RadOfDeg(38.9), RadOfDeg(77.0), RadOfDeg(38.9), RadOfDeg(77.0), forward, back, distance, ui);
+  GeographicInverse(ellipsoid, RadOfDeg(38.9), RadOfDeg(77.0), RadOfDeg(38.9), RadOfDeg(77.0), forward, back, distance,
+                    ui);
   EXPECT_EQ(distance, 0.0);
   EXPECT_EQ(forward, 123);
   EXPECT_EQ(back, 456);
@@ -47,18 +49,18 @@ TEST_F(GeodesyTest, InverseAzimuthsOfTheCardinalDirections) {
   ScriptedUi ui;
   const double lat = RadOfDeg(39.0), lon = RadOfDeg(77.0), step = RadOfDeg(0.01);
   double forward = -1, back = -1, distance = -1;
-  GeographicInverse(lat, lon, lat - step, lon, forward, back, distance, ui);  // due south
+  GeographicInverse(ellipsoid, lat, lon, lat - step, lon, forward, back, distance, ui);  // due south
   EXPECT_EQ(forward, kPi);
   EXPECT_EQ(back, 0.0);
-  GeographicInverse(lat, lon, lat + step, lon, forward, back, distance, ui);  // due north
+  GeographicInverse(ellipsoid, lat, lon, lat + step, lon, forward, back, distance, ui);  // due north
   EXPECT_EQ(forward, 0.0);
   EXPECT_EQ(back, kPi);
-  GeographicInverse(lat, lon, lat, lon + step, forward, back, distance, ui);  // due west: positive west
+  GeographicInverse(ellipsoid, lat, lon, lat, lon + step, forward, back, distance, ui);  // due west: positive west
   EXPECT_GT(forward, kThreeHalfPi);
   EXPECT_LT(forward, kThreeHalfPi + RadOfDeg(0.01));
   EXPECT_LT(back, kHalfPi);  // back toward the east, also leaving poleward
   EXPECT_GT(back, kHalfPi - RadOfDeg(0.01));
-  GeographicInverse(lat, lon, lat, lon - step, forward, back, distance, ui);  // due east
+  GeographicInverse(ellipsoid, lat, lon, lat, lon - step, forward, back, distance, ui);  // due east
   EXPECT_GT(forward, kHalfPi - RadOfDeg(0.01));
   EXPECT_LT(forward, kHalfPi);
 }
@@ -66,7 +68,7 @@ TEST_F(GeodesyTest, InverseAzimuthsOfTheCardinalDirections) {
 TEST_F(GeodesyTest, ForwardLeavesTheBackAzimuthAlone) {
   ScriptedUi ui;
   double lat2 = 0, lon2 = 0, back = 7.0;
-  GeographicForward(RadOfDeg(38.9), RadOfDeg(77.0), lat2, lon2, RadOfDeg(30.0), back, 500.0, ui);
+  GeographicForward(ellipsoid, RadOfDeg(38.9), RadOfDeg(77.0), lat2, lon2, RadOfDeg(30.0), back, 500.0, ui);
   EXPECT_EQ(back, 7.0);
   EXPECT_GT(lat2, RadOfDeg(38.9));
   EXPECT_LT(lon2, RadOfDeg(77.0));  // north-east: the west-positive longitude falls
@@ -75,7 +77,7 @@ TEST_F(GeodesyTest, ForwardLeavesTheBackAzimuthAlone) {
 TEST_F(GeodesyTest, ForwardFailureShowsItsMessageAndKeepsTheOutputs) {
   ScriptedUi ui;
   double lat2 = 11, lon2 = 22, back = 33;
-  GeographicForward(RadOfDeg(38.9), RadOfDeg(77.0), lat2, lon2, 0.5, back, 1e200, ui);  // s cubed overflows
+  GeographicForward(ellipsoid, RadOfDeg(38.9), RadOfDeg(77.0), lat2, lon2, 0.5, back, 1e200, ui);  // s cubed overflows
   ASSERT_EQ(ui.messages.size(), 1u);
   EXPECT_EQ(ui.messages[0].text, "Overflow");
   EXPECT_EQ(ui.messages[0].title, "Geographic Forward");
@@ -85,10 +87,10 @@ TEST_F(GeodesyTest, ForwardFailureShowsItsMessageAndKeepsTheOutputs) {
 }
 
 TEST_F(GeodesyTest, InverseFailureShowsItsMessageAndKeepsTheOutputs) {
-  SetCurrentEllipsoid({6378137.0, 2.0, 0.0});  // 1 - e2 sin^2 goes negative
+  ellipsoid = {6378137.0, 2.0, 0.0};  // 1 - e2 sin^2 goes negative
   ScriptedUi ui;
   double forward = 1, back = 2, distance = 3;
-  GeographicInverse(RadOfDeg(80), RadOfDeg(77), RadOfDeg(80.1), RadOfDeg(77), forward, back, distance, ui);
+  GeographicInverse(ellipsoid, RadOfDeg(80), RadOfDeg(77), RadOfDeg(80.1), RadOfDeg(77), forward, back, distance, ui);
   ASSERT_EQ(ui.messages.size(), 1u);
   EXPECT_EQ(ui.messages[0].text, "Invalid procedure call or argument");
   EXPECT_EQ(ui.messages[0].title, "Geographic Inverse");
@@ -99,16 +101,16 @@ TEST_F(GeodesyTest, InverseFailureShowsItsMessageAndKeepsTheOutputs) {
 
 TEST_F(GeodesyTest, GeodeticToCartesian) {
   double x = 0, y = 0, z = 0;
-  GeodeticToCartesian(0, 0, 0, x, y, z);
+  GeodeticToCartesian(ellipsoid, 0, 0, 0, x, y, z);
   EXPECT_DOUBLE_EQ(x, 6378137.0);
   EXPECT_EQ(y, 0.0);
   EXPECT_EQ(z, 0.0);
-  GeodeticToCartesian(0, kHalfPi, 10.0, x, y, z);  // 90 degrees west: Y positive
+  GeodeticToCartesian(ellipsoid, 0, kHalfPi, 10.0, x, y, z);  // 90 degrees west: Y positive
   EXPECT_NEAR(x, 0.0, 1e-6);
   EXPECT_DOUBLE_EQ(y, 6378147.0);
-  GeodeticToCartesian(kHalfPi, 0, 0, x, y, z);  // the pole: the semi-minor axis of GRS 80
+  GeodeticToCartesian(ellipsoid, kHalfPi, 0, 0, x, y, z);  // the pole: the semi-minor axis of GRS 80
   EXPECT_NEAR(z, 6356752.31414, 1e-5);
-  GeodeticToCartesian(RadOfDeg(45), 0, 100.0, x, y, z);
+  GeodeticToCartesian(ellipsoid, RadOfDeg(45), 0, 100.0, x, y, z);
   const double n = 6378137.0 / std::sqrt(1 - 0.00669438002290 / 2);
   EXPECT_NEAR(x, (n + 100) * std::sqrt(0.5), 1e-6);
   EXPECT_NEAR(z, ((1 - 0.00669438002290) * n + 100) * std::sqrt(0.5), 1e-6);
@@ -129,7 +131,7 @@ TEST_F(GeodesyTest, AccuracyAgainstGeodSolve) {
     const std::string where = r[0] + " " + r[1] + " az " + r[2] + " s " + r[3];
 
     double forward = NAN, back = NAN, s = 0;
-    GeographicInverse(lat1, lon1, lat2, lon2, forward, back, s, ui);
+    GeographicInverse(ellipsoid, lat1, lon1, lat2, lon2, forward, back, s, ui);
     inverseDistance.Note(std::fabs(s - distance), where);
     // On the equator an east-west chord has no north component at all: the azimuths stay unwritten.
     if (std::isnan(forward) || std::isnan(back)) {
@@ -142,7 +144,7 @@ TEST_F(GeodesyTest, AccuracyAgainstGeodSolve) {
     }
 
     double lat = 0, lon = 0, unused = 0;
-    GeographicForward(lat1, lon1, lat, lon, azimuth1, unused, distance, ui);
+    GeographicForward(ellipsoid, lat1, lon1, lat, lon, azimuth1, unused, distance, ui);
     const double miss = Separation(lat2, lon2, lat, lon);
     if (distance <= 1000) forwardShort.Note(miss, where);
     else forwardLong.Note(miss, where);

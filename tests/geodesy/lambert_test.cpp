@@ -14,6 +14,7 @@ namespace benchlog {
 namespace {
 
 using testing::GeodesyTest;
+using testing::Grs80;
 using testing::ReadVectors;
 using testing::SupportPath;
 using testing::Worst;
@@ -34,72 +35,73 @@ struct Grid {
   double north = -1, east = -1, convergence = -1, scale = -1;
 };
 
-Grid Project(const std::string& line, double latDegrees, double lonDegrees) {
+Grid Project(LambertZoneConstants& zone, const std::string& line, double latDegrees, double lonDegrees) {
   Grid g;
-  LambertForward(line, RadOfDeg(latDegrees), RadOfDeg(lonDegrees), g.north, g.east, g.convergence, g.scale);
+  LambertForward(Grs80(), zone, line, RadOfDeg(latDegrees), RadOfDeg(lonDegrees), g.north, g.east, g.convergence,
+                 g.scale);
   return g;
 }
 
 TEST_F(GeodesyTest, LambertOnlyForItsKind) {
-  const Grid g = Project(Zone("AL W "), 31, 87.5);
+  const Grid g = Project(lambert, Zone("AL W "), 31, 87.5);
   EXPECT_EQ(g.north, -1);
   EXPECT_EQ(g.east, -1);
   EXPECT_EQ(g.convergence, -1);
   EXPECT_EQ(g.scale, -1);
-  EXPECT_EQ(LambertZone().zoneNumber, 0);
+  EXPECT_EQ(lambert.zoneNumber, 0);
 }
 
 TEST_F(GeodesyTest, LambertOnTheCentralMeridian) {
-  const Grid g = Project(Zone("MD   "), 39, 77);
+  const Grid g = Project(lambert, Zone("MD   "), 39, 77);
   EXPECT_EQ(g.convergence, 0.0);
   EXPECT_EQ(g.east, 400000.0);
   EXPECT_GT(g.scale, 0.9999);
   EXPECT_LT(g.scale, 1.0);  // between the standard parallels
-  EXPECT_EQ(LambertZone().zoneNumber, 1900);
+  EXPECT_EQ(lambert.zoneNumber, 1900);
 }
 
 TEST_F(GeodesyTest, LambertKeepsTheZoneConstantsUntilTheNumberChanges) {
   const std::string maryland = Zone("MD   ");
   const std::string moved = With(maryland, 19, " 500000.0000");  // another false easting, same number
-  const Grid first = Project(maryland, 39.2, 76.5);
-  const Grid cached = Project(moved, 39.2, 76.5);  // same number: no rebuild, the old easting stays
+  const Grid first = Project(lambert, maryland, 39.2, 76.5);
+  const Grid cached = Project(lambert, moved, 39.2, 76.5);  // same number: no rebuild, the old easting stays
   EXPECT_EQ(cached.east, first.east);
   EXPECT_EQ(cached.north, first.north);
 
-  Project(Zone("VA N "), 38.5, 78);  // another zone, then back: rebuilt each time
-  EXPECT_EQ(LambertZone().zoneNumber, 4501);
-  const Grid rebuilt = Project(moved, 39.2, 76.5);
+  Project(lambert, Zone("VA N "), 38.5, 78);  // another zone, then back: rebuilt each time
+  EXPECT_EQ(lambert.zoneNumber, 4501);
+  const Grid rebuilt = Project(lambert, moved, 39.2, 76.5);
   EXPECT_NEAR(rebuilt.east, first.east + 100000.0, 1e-9);
   EXPECT_EQ(rebuilt.north, first.north);
-  EXPECT_EQ(LambertZone().zoneNumber, 1900);
+  EXPECT_EQ(lambert.zoneNumber, 1900);
 }
 
 TEST_F(GeodesyTest, LambertZeroParallelLeavesStaleConstants) {
   const std::string maryland = Zone("MD   ");
-  const Grid reference = Project(maryland, 39.2, 76.5);
-  const double k = LambertZone().k;
+  const Grid reference = Project(lambert, maryland, 39.2, 76.5);
+  const double k = lambert.k;
   // Zone 9999: Maryland with the first parallel 0 and another false easting.
   const std::string broken = With(With(With(maryland, 7, "9999"), 45, "00:00"), 19, " 500000.0000");
-  const Grid untouched = Project(broken, 39.2, 76.5);
+  const Grid untouched = Project(lambert, broken, 39.2, 76.5);
   EXPECT_EQ(untouched.north, -1);
   EXPECT_EQ(untouched.east, -1);
   EXPECT_EQ(untouched.convergence, -1);
   EXPECT_EQ(untouched.scale, -1);
-  EXPECT_EQ(LambertZone().zoneNumber, 9999);
-  EXPECT_EQ(LambertZone().eb, 500000.0);  // stored before the parallels were read
-  EXPECT_EQ(LambertZone().k, k);
+  EXPECT_EQ(lambert.zoneNumber, 9999);
+  EXPECT_EQ(lambert.eb, 500000.0);  // stored before the parallels were read
+  EXPECT_EQ(lambert.k, k);
   // The next call for that zone skips the rebuild and works with Maryland's K, Rb and cone.
-  const Grid stale = Project(broken, 39.2, 76.5);
+  const Grid stale = Project(lambert, broken, 39.2, 76.5);
   EXPECT_NEAR(stale.east, reference.east + 100000.0, 1e-9);
   EXPECT_EQ(stale.north, reference.north);
   EXPECT_EQ(stale.scale, reference.scale);
 }
 
 TEST_F(GeodesyTest, LambertEastOfTheMeridianHasPositiveConvergence) {
-  const Grid east = Project(Zone("MD   "), 39, 76);  // 76 W lies east of 77 W
+  const Grid east = Project(lambert, Zone("MD   "), 39, 76);  // 76 W lies east of 77 W
   EXPECT_GT(east.east, 400000.0);
   EXPECT_GT(east.convergence, 0.0);
-  const Grid west = Project(Zone("MD   "), 39, 78);
+  const Grid west = Project(lambert, Zone("MD   "), 39, 78);
   EXPECT_LT(west.east, 400000.0);
   EXPECT_NEAR(west.convergence, -east.convergence, 1e-15);
 }
@@ -115,7 +117,7 @@ TEST_F(GeodesyTest, LambertAccuracyAgainstProj) {
     std::string& line = lines[r[0]];
     if (line.empty()) FindZoneLine("", r[0], line, SupportPath());
     ASSERT_EQ(ZoneKind(line), "LC") << r[0];
-    const Grid g = Project(line, std::stod(r[1]), std::stod(r[2]));
+    const Grid g = Project(lambert, line, std::stod(r[1]), std::stod(r[2]));
     const std::string where = r[0] + " " + r[1] + " " + r[2];
     position.Note(std::max(std::fabs(g.north - std::stod(r[3])), std::fabs(g.east - std::stod(r[4]))), where);
     convergence.Note(std::fabs(g.convergence - RadOfDeg(std::stod(r[5]))), where);

@@ -26,7 +26,7 @@ TEST_F(GeodesyTest, ObliqueOnlyForItsKind) {
   std::string line;
   FindZoneLine("AK 2 ", "", line, SupportPath());
   double north = -1, east = -1, convergence = -1, scale = -1;
-  ObliqueForward(line, RadOfDeg(57), RadOfDeg(133.5), north, east, convergence, scale);
+  ObliqueForward(ellipsoid, line, RadOfDeg(57), RadOfDeg(133.5), north, east, convergence, scale);
   EXPECT_EQ(north, -1);
   EXPECT_EQ(scale, -1);
 }
@@ -35,7 +35,7 @@ TEST_F(GeodesyTest, ObliqueCentreOfAlaskaZoneOne) {
   // At the centre, 57 N 133 40 W, the axis runs through with scale 0.9999, and the grid, turned
   // by the axis azimuth, has its north close to true north.
   double north = 0, east = 0, convergence = 1, scale = 0;
-  ObliqueForward(AlaskaOne(), RadOfDeg(57), RadOfDeg(133 + 40 / 60.0), north, east, convergence, scale);
+  ObliqueForward(ellipsoid, AlaskaOne(), RadOfDeg(57), RadOfDeg(133 + 40 / 60.0), north, east, convergence, scale);
   EXPECT_NEAR(scale, 0.9999, 1e-9);
   EXPECT_NEAR(convergence, 0.0, RadOfDeg(0.5));
   EXPECT_GT(east, 0.0);
@@ -51,7 +51,7 @@ TEST_F(GeodesyTest, ObliqueAccuracyAgainstProj) {
   for (const auto& r : ReadVectors("spcs_vectors.txt")) {
     if (r[7] != "OM") continue;
     double north = 0, east = 0, gamma = 0, k = 0;
-    ObliqueForward(line, RadOfDeg(std::stod(r[1])), RadOfDeg(std::stod(r[2])), north, east, gamma, k);
+    ObliqueForward(ellipsoid, line, RadOfDeg(std::stod(r[1])), RadOfDeg(std::stod(r[2])), north, east, gamma, k);
     const std::string where = r[1] + " " + r[2];
     position.Note(std::hypot(north - std::stod(r[3]), east - std::stod(r[4])), where);
     exactAxis.Note(std::hypot(north - std::stod(r[8]), east - std::stod(r[9])), where);

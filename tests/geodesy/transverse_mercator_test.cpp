@@ -15,6 +15,7 @@ namespace benchlog {
 namespace {
 
 using testing::GeodesyTest;
+using testing::Grs80;
 using testing::ReadVectors;
 using testing::SupportPath;
 using testing::Worst;
@@ -27,7 +28,7 @@ struct Grid {
 
 Grid Forward(const std::string& line, double latitude, double longitude) {
   Grid g;
-  TmForward(line, latitude, longitude, g.north, g.east, g.convergence, g.scale);
+  TmForward(Grs80(), line, latitude, longitude, g.north, g.east, g.convergence, g.scale);
   return g;
 }
 
@@ -42,7 +43,7 @@ TEST_F(GeodesyTest, TransverseMercatorOnlyForItsKinds) {
   EXPECT_EQ(lambert.north, -1);
   EXPECT_EQ(lambert.scale, -1);
   double lat = -1, lon = -1, convergence = -1, scale = -1;
-  TmInverse(Zone("AK 1 "), lat, lon, 1000, 1000, convergence, scale);
+  TmInverse(Grs80(), Zone("AK 1 "), lat, lon, 1000, 1000, convergence, scale);
   EXPECT_EQ(lat, -1);
   EXPECT_EQ(lon, -1);
 }
@@ -74,7 +75,7 @@ TEST_F(GeodesyTest, TransverseMercatorWithoutScaleDenominatorFails) {
   std::string line = Zone("AL W ");
   line.replace(18, 12, std::string(12, ' '));
   Grid g;
-  EXPECT_THROW(TmForward(line, 0.5, 1.5, g.north, g.east, g.convergence, g.scale), RuntimeFailure);
+  EXPECT_THROW(TmForward(Grs80(), line, 0.5, 1.5, g.north, g.east, g.convergence, g.scale), RuntimeFailure);
   EXPECT_EQ(g.north, -1);
 }
 
@@ -83,7 +84,7 @@ TEST_F(GeodesyTest, InverseIsNotAnExactMirror) {
   const double lat = RadOfDeg(32.5), lon = RadOfDeg(85.3);
   const Grid g = Forward(line, lat, lon);
   double lat2 = 0, lon2 = 0, convergence = 0, scale = 0;
-  TmInverse(line, lat2, lon2, g.north, g.east, convergence, scale);
+  TmInverse(Grs80(), line, lat2, lon2, g.north, g.east, convergence, scale);
   EXPECT_NEAR(lat2, lat, 1e-5 * kArcSecond);
   EXPECT_NEAR(lon2, lon, 1e-5 * kArcSecond);
   EXPECT_NEAR(convergence, g.convergence, 1e-9);
@@ -103,7 +104,7 @@ struct TmFigures {
     convergence.Note(std::fabs(g.convergence - RadOfDeg(std::stod(r[5]))), where);
     scale.Note(std::fabs(g.scale - std::stod(r[6])), where);
     double lat2 = 0, lon2 = 0, gamma = 0, k = 0;
-    TmInverse(line, lat2, lon2, north, east, gamma, k);
+    TmInverse(Grs80(), line, lat2, lon2, north, east, gamma, k);
     inverse.Note(std::max(std::fabs(lat2 - lat), std::fabs(lon2 - lon) * std::cos(lat)) / kArcSecond, where);
     ++points;
   }

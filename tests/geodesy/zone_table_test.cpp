@@ -161,7 +161,7 @@ TEST_F(GeodesyTest, ScaleDenominatorGivesTheCentralScale) {
     double north = 0, east = 0, convergence = 1, scale = 0;
     // The central meridian exactly as the routine forms it: (degrees + minutes / 60) / (180 / pi).
     const double cm = (ZoneField(line, 101, 3) + ZoneField(line, 105, 2) / 60.0) / (180.0 / kPi);
-    TmForward(line, RadOfDeg(40), cm, north, east, convergence, scale);
+    TmForward(ellipsoid, line, RadOfDeg(40), cm, north, east, convergence, scale);
     EXPECT_DOUBLE_EQ(scale, c.k0) << c.key;
     EXPECT_EQ(convergence, 0.0) << c.key;
     EXPECT_EQ(east, ZoneField(line, 60, 12)) << c.key;

@@ -1,4 +1,4 @@
-#include "geodesy/text_checks.hpp"
+#include "common/text_checks.hpp"
 
 #include "common/text.hpp"
 

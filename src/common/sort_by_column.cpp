@@ -1,4 +1,4 @@
-#include "geodesy/sort_by_column.hpp"
+#include "common/sort_by_column.hpp"
 
 #include <algorithm>
 #include <string_view>

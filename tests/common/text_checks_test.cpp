@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "geodesy/sort_by_column.hpp"
-#include "geodesy/text_checks.hpp"
+#include "common/sort_by_column.hpp"
+#include "common/text_checks.hpp"
 
 namespace benchlog {
 namespace {
