@@ -20,8 +20,9 @@ enum AngleFormat : std::int16_t {
 // (1 to 5; any other code leaves `text` as it came), seconds with `decimals` places (0 or more).
 // The seconds are single precision, so no more than about seven significant digits of them are
 // meaningful. Seconds at or above 59.5 (0 decimals), 59.95 (1), 59.995 (2) ..., and any that would
-// be written as 60, roll into the minute, minutes into the degree, and a whole 360 00 00 wraps to 0. `zeroFill` writes the degrees
-// as "000"; else `pad` right-justifies them in three columns behind the sign; else "##0".
+// be written as 60, roll into the minute, minutes into the degree, and a whole 360 00 00 wraps to
+// 0. `zeroFill` writes the degrees as "000"; else `pad` right-justifies them in three columns
+// behind the sign; else "##0".
 // Throws RuntimeFailure Overflow for degrees beyond the 16-bit range.
 void RadToDms(double angle, std::string& text, std::int16_t formatCode, std::int16_t decimals, bool pad,
               bool zeroFill);

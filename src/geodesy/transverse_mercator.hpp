@@ -25,8 +25,8 @@ double MeridionalArcAngle(double latitude);
 // Grid coordinates (metres), meridian convergence (radians, positive east of the central meridian
 // in the north) and point scale of (`latitude`, `longitude`) (radians, longitude positive west).
 // The difference from the central meridian is taken within a half turn, so a longitude east of
-// Greenwich may be given as a negative value or as 180 to 360 degrees. Does nothing unless the line's kind is "TM" or "UT". Throws RuntimeFailure on a line without
-// a scale denominator.
+// Greenwich may be given as a negative value or as 180 to 360 degrees. Does nothing unless the
+// line's kind is "TM" or "UT". Throws RuntimeFailure on a line without a scale denominator.
 void TmForward(const Ellipsoid& ellipsoid, std::string_view zoneLine, double latitude, double longitude,
                double& north, double& east, double& convergence, double& scale);
 

@@ -34,9 +34,7 @@ TEST(RadToDms, FiveFormatCodes) {
 // Around the rollover threshold of every number of decimals: the text never shows 60 seconds, and
 // DmsToRad reads back what was written.
 TEST(RadToDms, RollsOverWhatWouldBeWrittenAsSixtySeconds) {
-  const auto rows = testing::ReadVectors("rad_to_dms_rollover.txt");
-  ASSERT_EQ(rows.size(), 27u);
-  for (const auto& r : rows) {
+  for (const auto& r : testing::ReadRows("rad_to_dms_rollover.txt", 27)) {
     std::string text = ToDms(Dms(std::stod(r[0]), std::stod(r[1]), std::stod(r[2])), 3, std::stoi(r[3]));
     EXPECT_EQ(text, r[4]) << r[0] << " " << r[1] << " " << r[2] << " with " << r[3];
     double radians = 0;
@@ -71,78 +69,15 @@ TEST(RadToDms, SecondsCarryNoMoreThanSinglePrecision) {
   EXPECT_EQ(ToDms(Dms(38, 53, 23.1234567), 2, 7), "38 53 23.1234600");
 }
 
-struct DmsCase {
-  const char* text;
-  const char* textAfter;  // the in-out text: trimmed, leading "-" removed
-  double expectedDegrees;
-  const char* error;
-};
-
-TEST(DmsToRad, ReadsEverySeparatorForm) {
-  const DmsCase cases[] = {
-      {"38 53 23.1", "38 53 23.1", 38 + 53 / 60.0 + 23.1 / 3600, ""},
-      {"385323.1", "385323.1", 38 + 53 / 60.0 + 23.1 / 3600, ""},  // point at 7: in the seconds
-      {"38.53231", "38.53231", 38 + 53 / 60.0 + 23.1 / 3600, ""},  // point at 3: behind the degrees
-      {"38.5323", "38.5323", 38 + 53 / 60.0 + 23 / 3600.0, ""},
-      {"12345", "12345", 1 + 23 / 60.0 + 45 / 3600.0, ""},
-      {"1234567", "1234567", 123 + 45 / 60.0 + 67 / 3600.0, "<*** Invalid seconds input ***>"},
-      {"-38-53-23", "38-53-23", -(38 + 53 / 60.0 + 23 / 3600.0), ""},
-      {"  077:30  ", "077:30", 77.5, ""},
-      {"38,30", "38,30", 38.5, ""},
-      {"38:53.5", "38:53.5", 38 + 53.5 / 60, ""},  // ":" before "."
-      {"38", "38", 0, "<*** Invalid angle - 38 ***>"},
-      {"+38 53 00", "+38 53 00", 38 + 53 / 60.0, ""},  // a leading "+" goes on into the degrees
-      {":12345", ":12345", 23 / 60.0 + 45 / 3600.0, ""},  // a separator at position 1 does not count
-      {"45 30", "45 30", 45.5, ""},  // missing seconds read as 0
-      {"10 20 30 40", "10 20 30 40", 10 + 20 / 60.0 + 30 / 3600.0, ""},  // a fourth field is ignored
-  };
-  for (const auto& c : cases) {
-    std::string text = c.text;
+TEST(DmsToRad, ReadsEveryFormAndRefusesWhatIsNoAngle) {
+  for (const auto& r : testing::ReadRows("dms_to_rad_cases.txt", 27, '|')) {
+    std::string text = r[0];
     double radians = -1;
     std::string error = "stale";
     DmsToRad(text, radians, error);
-    EXPECT_EQ(error, c.error) << c.text;
-    EXPECT_EQ(text, c.textAfter) << c.text;
-    if (error.empty()) EXPECT_NEAR(radians, RadOfDeg(c.expectedDegrees), 1e-15) << c.text;
-    else EXPECT_EQ(radians, 0.0) << c.text;
-  }
-}
-
-TEST(DmsToRad, RefusesFlaggedAndOutOfRangeTexts) {
-  const DmsCase cases[] = {
-      {"1234", "1234", 0, "<*** Invalid angle - 1234 ***>"},  // under five characters
-      {"38*53 23", "38*53 23", 0, "<*** Invalid angle - 38*53 23 ***>"},
-      {"(38 53 23)", "(38 53 23)", 0, "<*** Invalid angle - (38 53 23) ***>"},
-      {"38 53 #23", "38 53 #23", 0, "<*** Invalid angle - 38 53 #23 ***>"},
-      {"38+53", "38+53", 0, "<*** Invalid angle - 38+53 ***>"},
-      {" -38 53* ", "-38 53*", 0, "<*** Invalid angle - -38 53* ***>"},
-      {"360 00 00", "360 00 00", 0, "<*** Invalid degrees input ***>"},
-      {"359 60 00", "359 60 00", 0, "<*** Invalid minutes input ***>"},
-      {"359 60 60", "359 60 60", 0, "<*** Invalid seconds input ***>"},  // the last failing test speaks
-      {"400 60 00", "400 60 00", 0, "<*** Invalid minutes input ***>"},
-      {"38 53-23", "38 53-23", 0, "<*** Invalid degrees input ***>"},  // "-" first: "38 53" reads 3853
-      {"1E999 00 00", "1E999 00 00", 0, "Overflow"},
-  };
-  for (const auto& c : cases) {
-    std::string text = c.text;
-    double radians = -1;
-    std::string error;
-    DmsToRad(text, radians, error);
-    EXPECT_EQ(error, c.error) << c.text;
-    EXPECT_EQ(text, c.textAfter) << c.text;
-    EXPECT_EQ(radians, 0.0) << c.text;
-  }
-}
-
-TEST(DmsToRad, ReadsWhatRadToDmsWrites) {
-  const double angle = Dms(104, 59, 59.87654);
-  for (int code = 2; code <= 4; ++code) {
-    std::string text = ToDms(angle, code, 5);
-    double radians = 0;
-    std::string error;
-    DmsToRad(text, radians, error);
-    EXPECT_EQ(error, "") << code;
-    EXPECT_NEAR(radians, angle, RadOfDeg(0.000005 / 3600)) << code;
+    EXPECT_EQ(text, r[1]) << r[0];
+    EXPECT_EQ(error, r[2]) << r[0];
+    EXPECT_NEAR(radians, RadOfDeg(std::stod(r[3])), 1e-14) << r[0];
   }
 }
 

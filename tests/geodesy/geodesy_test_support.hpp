@@ -1,6 +1,7 @@
 #pragma once
 // Shared ground of the geodesy tests: GRS 80 as the configured ellipsoid, the committed zone table,
-// and the reference vectors made from PROJ and GeographicLib (tools/make_geodesy_vectors.py).
+// the reference vectors made from PROJ and GeographicLib (tools/make_geodesy_vectors.py) and the
+// case tables of tests/data/geodesy.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -30,22 +31,29 @@ class GeodesyTest : public ::testing::Test {
 
 inline std::string SupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }
 
-// The whitespace-separated fields of each data line of a vector file; "#" lines are comments.
-inline std::vector<std::vector<std::string>> ReadVectors(const std::string& name) {
+// The fields of each data line of tests/data/geodesy/`name` ("#" lines are comments), split at
+// `separator`, or at runs of blanks when it is ' '. Fails the test unless there are `expectedRows`
+// lines, so that an empty or cut file cannot pass.
+inline std::vector<std::vector<std::string>> ReadRows(const std::string& name, std::size_t expectedRows,
+                                                      char separator = ' ') {
   std::ifstream in(std::string(BENCHLOG_TEST_DATA) + "/geodesy/" + name);
   std::vector<std::vector<std::string>> rows;
-  std::string line;
-  while (std::getline(in, line)) {
+  for (std::string line; std::getline(in, line);) {
     if (line.empty() || line[0] == '#') continue;
     std::istringstream fields(line);
     std::vector<std::string> row;
-    for (std::string field; fields >> field;) row.push_back(field);
+    if (separator == ' ') {
+      for (std::string field; fields >> field;) row.push_back(field);
+    } else {
+      for (std::string field; std::getline(fields, field, separator);) row.push_back(field);
+    }
     rows.push_back(row);
   }
+  EXPECT_EQ(rows.size(), expectedRows) << name;
   return rows;
 }
 
-// Largest error seen, with the case that gave it, for the figures a test prints.
+// Largest error seen, with the case that gave it.
 struct Worst {
   double value = 0;
   std::string where;
