@@ -14,7 +14,8 @@
 #include "export/listing_outputs.hpp"
 #include "export/mark_values.hpp"
 #include "export/parsed_marks.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 
 namespace benchlog {
 namespace {

@@ -8,7 +8,8 @@
 #include "common/number_text.hpp"
 #include "common/text.hpp"
 #include "export/frm_output_options.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 
 namespace benchlog {
 

@@ -4,7 +4,8 @@
 #include "common/line_input.hpp"
 #include "common/number_text.hpp"
 #include "common/text.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 
 namespace benchlog {
 namespace {

@@ -11,7 +11,7 @@
 #include "geodesy/oblique_mercator.hpp"
 #include "geodesy/transverse_mercator.hpp"
 #include "geodesy/utm_zone.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
 
 namespace benchlog {
 namespace {

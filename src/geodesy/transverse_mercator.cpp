@@ -5,7 +5,7 @@
 #include "geodesy/angles.hpp"
 #include "geodesy/checked_math.hpp"
 #include "geodesy/ellipsoid.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
 
 namespace benchlog {
 namespace {

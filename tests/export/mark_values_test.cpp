@@ -13,7 +13,8 @@
 #include "fakes/temp_folder.hpp"
 #include "geodesy/angle_text.hpp"
 #include "geodesy/lambert.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 
 namespace benchlog::testing {
 namespace {

@@ -6,7 +6,8 @@
 #include "common/text.hpp"
 #include "geodesy/angles.hpp"
 #include "geodesy/lambert.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 #include "geodesy_test_support.hpp"
 
 namespace benchlog {

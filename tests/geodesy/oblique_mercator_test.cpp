@@ -4,7 +4,8 @@
 
 #include "geodesy/angles.hpp"
 #include "geodesy/oblique_mercator.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 #include "geodesy_test_support.hpp"
 
 namespace benchlog {

@@ -7,7 +7,8 @@
 #include "geodesy/angles.hpp"
 #include "geodesy/transverse_mercator.hpp"
 #include "geodesy/utm_zone.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 #include "geodesy_test_support.hpp"
 
 namespace benchlog {

@@ -8,7 +8,7 @@
 #include "geodesy/national_grid.hpp"
 #include "geodesy/transverse_mercator.hpp"
 #include "geodesy/utm_zone.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
 #include "geodesy_test_support.hpp"
 
 namespace benchlog {

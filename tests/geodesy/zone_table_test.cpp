@@ -2,7 +2,8 @@
 
 #include "common/runtime_failure.hpp"
 #include "fakes/temp_folder.hpp"
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 #include "geodesy_test_support.hpp"
 
 namespace benchlog {

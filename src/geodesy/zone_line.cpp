@@ -1,9 +1,8 @@
-#include "geodesy/zone_table.hpp"
+#include "geodesy/zone_line.hpp"
 
 #include <bit>
 #include <cstdint>
 
-#include "common/line_input.hpp"
 #include "common/number_text.hpp"
 #include "common/text.hpp"
 #include "geodesy/angle_text.hpp"
@@ -15,24 +14,7 @@ namespace {
 constexpr double kInternationalFootMm = 304.79999999999995;
 static_assert(std::bit_cast<std::uint64_t>(kInternationalFootMm) == 0x40730CCCCCCCCCCCu);
 
-bool Matches(std::string_view line, std::size_t start, std::size_t length, const std::string& text) {
-  return !text.empty() && Mid(line, start, length) == text;
-}
-
 }  // namespace
-
-void FindZoneLine(const std::string& zoneKey, const std::string& zoneNumber, std::string& line,
-                  const std::string& supportPath) {
-  line.clear();
-  LineReader reader(supportPath + kZoneTableFile);
-  std::string_view candidate;
-  while (reader.ReadLine(candidate)) {
-    if (Matches(candidate, 1, 5, zoneKey) || Matches(candidate, 7, 4, zoneNumber)) {
-      line = std::string(candidate);
-      return;
-    }
-  }
-}
 
 double ZoneField(std::string_view zoneLine, std::size_t start, std::size_t length) {
   return Val(Mid(zoneLine, start, length));

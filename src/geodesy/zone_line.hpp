@@ -1,26 +1,16 @@
 #pragma once
-// The zone table "Zones.txt" in the support folder: one state plane zone a line, its constants in
-// fixed columns. Columns common to every kind:
+// One line of the zone table (support_files/zone_table_file.hpp): a state plane zone, its constants
+// in fixed columns. Columns common to every kind:
 //   1-5 zone key ("MD   ", "TX SC"), 7-10 zone number ("1900"), 221-223 foot unit ("sFT", "iFT"
 //   or blanks), 225-226 projection kind ("LC", "TM", "OM"; "UT" in the UTM lines made in memory).
-// The columns of each kind are described with its projection routine. The table is never kept in
-// memory: each lookup reads the file from its start.
+// The columns of each kind are described with its projection routine.
 #include <string>
 #include <string_view>
 
 namespace benchlog {
 
-inline constexpr const char* kZoneTableFile = "Zones.txt";
-
 // Feet in a metre for heights and distances, whatever the zone.
 inline constexpr double kFeetPerMetre = 3.28083333333333;
-
-// Reads `supportPath` + "Zones.txt" from its start and sets `line` to the first line whose columns
-// 1-5 equal `zoneKey` or whose columns 7-10 equal `zoneNumber` (either may match; an empty text
-// matches nothing). With no match `line` is empty. Throws RuntimeFailure
-// "File not found" when the table is absent.
-void FindZoneLine(const std::string& zoneKey, const std::string& zoneNumber, std::string& line,
-                  const std::string& supportPath);
 
 // A numeric field of a zone line, read with the leading-number parse (blanks skipped, "" is 0).
 double ZoneField(std::string_view zoneLine, std::size_t start, std::size_t length);
