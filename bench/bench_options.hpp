@@ -2,11 +2,14 @@
 // The options every benchmark takes: "--mb N" for the dataset's size in megabytes (100 unless
 // given) and "--dir FOLDER" for where the generated files go (a folder of the system's
 // temporary folder unless given). Other options are left for the benchmark to read.
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <string>
+
+#include "dataset/dataset_size_limit.hpp"
 
 namespace benchlog::bench {
 
@@ -14,6 +17,14 @@ struct BenchOptions {
   std::uint64_t megabytes = 100;
   std::string folder;
 };
+
+// The size of a benchmark's dataset: N megabytes, but always short of the dataset size limit, so
+// that every look-up is exact; the default 100 gives a dataset just under it. The generator stops
+// behind the Description that reaches its target, which leaves room for one.
+inline std::uint64_t BenchDatasetBytes(std::uint64_t megabytes) {
+  constexpr std::uint64_t kRoomForOneDescription = 64 * 1024;
+  return std::min(megabytes * 1000 * 1000, kDatasetSizeLimit - kRoomForOneDescription);
+}
 
 inline BenchOptions ReadBenchOptions(int argc, char** argv, const char* defaultFolderName) {
   BenchOptions options;

@@ -82,7 +82,8 @@ int Run(const char* self, std::uint64_t megabytes, const std::string& folder) {
   const std::string ndx = folder + "/bench.ndx";
   const std::string work = folder + "/work.dat";
   std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
-  const GeneratedDataset made = GenerateDataset(dat, megabytes * 1000 * 1000);
+  const GeneratedDataset made = GenerateDataset(dat, BenchDatasetBytes(megabytes));
+  if (!FitsSizeLimit(made.bytes)) throw std::runtime_error("the generated dataset is past the size limit");
   std::printf("%llu bytes, %zu Descriptions\n\n", static_cast<unsigned long long>(made.bytes), made.pids.size());
   TimeShell("cat " + Quoted(dat) + " > /dev/null");  // into the page cache
 

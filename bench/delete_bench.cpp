@@ -25,7 +25,8 @@ constexpr std::size_t kDeleted = 1000;
 int Run(std::uint64_t megabytes, const std::string& folder) {
   std::filesystem::create_directories(folder);
   const std::string source = folder + "/delete_source.dat";
-  if (!FileExists(source) || FileLength(source) < megabytes * 1000000) GenerateDataset(source, megabytes * 1000000);
+  if (!FileExists(source) || FileLength(source) < BenchDatasetBytes(megabytes) || !FitsSizeLimit(FileLength(source)))
+    GenerateDataset(source, BenchDatasetBytes(megabytes));
 
   testing::FakePlatform fake(folder);
   fake.progress.observer = nullptr;

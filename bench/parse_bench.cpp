@@ -138,7 +138,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   const std::string dat = folder + "/bench.dat";
   const std::string ndx = folder + "/bench.ndx";
   std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
-  const GeneratedDataset made = GenerateDataset(dat, megabytes * 1000 * 1000);
+  const GeneratedDataset made = GenerateDataset(dat, BenchDatasetBytes(megabytes));
   std::printf("%llu bytes, %zu Descriptions\n\n", static_cast<unsigned long long>(made.bytes), made.pids.size());
   ReadWholeFile(dat);  // into the page cache
 

@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <vector>
 
+#include "common/files.hpp"
 #include "common/paths.hpp"
+#include "common/runtime_failure.hpp"
 
 namespace benchlog {
 namespace fs = std::filesystem;
@@ -22,7 +24,15 @@ std::string PrepareDemoDataset(SettingsStore& settings, const std::string& sampl
 
   fs::create_directories(demoFolder, error);
   if (error) return {};
-  for (const auto& file : files) fs::copy_file(file, fs::path(demoFolder) / file.filename(), fs::copy_options::skip_existing, error);
+  // A copy that cannot be written whole leaves no demo behind it to open.
+  try {
+    for (const auto& file : files) {
+      const std::string copy = (fs::path(demoFolder) / file.filename()).string();
+      if (!FileExists(copy)) WriteWholeFile(copy, ReadWholeFile(file.string()));
+    }
+  } catch (const RuntimeFailure&) {
+    return {};
+  }
   const std::string path = JoinPath(demoFolder, dataset->filename().string());
   settings.SaveSetting("Settings", "LastDatFullName", path);
   settings.SaveSetting("Settings", "LastDatDirectory", FolderOf(path));

@@ -7,17 +7,19 @@
 #include "app/recent_files.hpp"
 #include "common/number_text.hpp"
 #include "common/paths.hpp"
+#include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "dataset/load_dataset_index.hpp"
 
 namespace benchlog {
 namespace {
 
-// Runs one step of the load whose failures are ignored, as the rest of the load goes on.
+// Runs one step of the load whose run-time failures are ignored, as the rest of the load goes
+// on. Anything else is a fault of the program and is not hidden.
 void IgnoringFailures(const std::function<void()>& step) {
   try {
     step();
-  } catch (const std::exception&) {
+  } catch (const RuntimeFailure&) {
   }
 }
 

@@ -1,11 +1,11 @@
 #include "common/files.hpp"
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
 #include <unistd.h>
 
+#include "common/line_writer.hpp"
 #include "common/runtime_failure.hpp"
 
 namespace benchlog {
@@ -41,17 +41,15 @@ std::string ReadWholeFile(const std::string& path) {
 }
 
 void WriteWholeFile(const std::string& path, std::string_view text) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  if (!out) throw PathFileAccessError();
-  out.write(text.data(), static_cast<std::streamsize>(text.size()));
-  if (!out) throw PathFileAccessError();
+  LineWriter out(path);
+  out.Write(text);
+  out.Close();
 }
 
 void AppendToFile(const std::string& path, std::string_view text) {
-  std::ofstream out(path, std::ios::binary | std::ios::app);
-  if (!out) throw PathFileAccessError();
-  out.write(text.data(), static_cast<std::streamsize>(text.size()));
-  if (!out) throw PathFileAccessError();
+  LineWriter out(path, LineWriter::Mode::kAppend);
+  out.Write(text);
+  out.Close();
 }
 
 bool IsReadOnly(const std::string& path) {
@@ -67,23 +65,6 @@ bool IsReadOnly(const std::string& path) {
 void DeleteFileIfExists(const std::string& path) {
   std::error_code error;
   fs::remove(path, error);
-}
-
-void ReplaceFile(const std::string& from, const std::string& to) {
-  std::error_code error;
-  fs::rename(from, to, error);
-  if (!error) return;
-  // Another file system: copy beside the target first, then rename there.
-  if (!FileExists(from)) throw FileNotFound();
-  const std::string beside = to + ".new";
-  fs::copy_file(from, beside, fs::copy_options::overwrite_existing, error);
-  if (!error) fs::rename(beside, to, error);
-  if (error) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    throw PathFileAccessError();
-  }
-  fs::remove(from, error);
 }
 
 }  // namespace benchlog

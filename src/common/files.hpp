@@ -11,15 +11,13 @@ bool FolderExists(const std::string& path);
 // Length in bytes; throws RuntimeFailure "File not found" when the file is missing.
 std::uint64_t FileLength(const std::string& path);
 std::string ReadWholeFile(const std::string& path);  // throws "File not found"
-// Creates or overwrites; throws "Path/File access error" when the file cannot be written.
+// Creates or replaces the file through LineWriter: the old file stays as it was unless the new
+// one was written whole. Throws RuntimeFailure (WriteFailure) when the file cannot be written.
 void WriteWholeFile(const std::string& path, std::string_view text);
+// Adds to the end of the file (creating it); a failed write cuts it back to its old length.
 void AppendToFile(const std::string& path, std::string_view text);
 // Exists and cannot be opened for writing, or has no write permission at all (also for root).
 bool IsReadOnly(const std::string& path);
 void DeleteFileIfExists(const std::string& path);
-// Moves `from` over `to` in one step (rename on the same file system, copy and rename otherwise),
-// so that `to` is always either the old file or the new one, whole. Throws "File not found" when
-// `from` is missing and "Path/File access error" when the move fails; `to` is then untouched.
-void ReplaceFile(const std::string& from, const std::string& to);
 
 }  // namespace benchlog

@@ -1,6 +1,23 @@
 #include "common/runtime_failure.hpp"
 
+#include <cerrno>
+#include <cstring>
+
 namespace benchlog {
+
+namespace {
+
+bool IsDiskFull(int osError) { return osError == ENOSPC || osError == EDQUOT; }
+
+std::string WriteFailureText(const std::string& path, int osError) {
+  return std::string(IsDiskFull(osError) ? "Disk full" : "Path/File access error") + ": could not write " + path +
+         " (" + std::strerror(osError) + ")";
+}
+
+}  // namespace
+
+WriteFailure::WriteFailure(const std::string& path, int osError)
+    : RuntimeFailure(IsDiskFull(osError) ? kDiskFull : kPathFileAccessError, WriteFailureText(path, osError)) {}
 
 RuntimeFailure Overflow() { return {kOverflow, "Overflow"}; }
 RuntimeFailure SubscriptOutOfRange() { return {kSubscriptOutOfRange, "Subscript out of range"}; }

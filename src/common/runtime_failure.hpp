@@ -13,6 +13,12 @@ struct RuntimeFailure : std::runtime_error {
   std::string description;
 };
 
+// A file that could not be written whole: "Disk full" (61) when the disk or the quota is full,
+// "Path/File access error" (75) for any other reason; the text names the file and the reason.
+struct WriteFailure : RuntimeFailure {
+  WriteFailure(const std::string& path, int osError);
+};
+
 enum FailureNumber : int {
   kOverflow = 6,
   kSubscriptOutOfRange = 9,
@@ -20,6 +26,7 @@ enum FailureNumber : int {
   kTypeMismatch = 13,
   kFileNotFound = 53,
   kInvalidProcedureCall = 5,
+  kDiskFull = 61,
   kPathFileAccessError = 75,
   kCancelError = 32755,  // a cancelled common dialog
 };

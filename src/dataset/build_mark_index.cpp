@@ -1,7 +1,5 @@
 #include "dataset/build_mark_index.hpp"
 
-#include <stdexcept>
-
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/paths.hpp"
@@ -101,9 +99,9 @@ bool BuildMarkIndex(const std::string& datasetPath, const std::string& indexPath
     IndexBuilder(datasetPath, markIndex, platform.dlgProcessing).Run(indexPath);
     platform.dlgProcessing.Hide();
     return true;
-  } catch (const std::exception& failure) {
+  } catch (const RuntimeFailure& failure) {
     platform.dlgProcessing.Hide();
-    platform.ui.MsgBox(failure.what(), MsgButtons::Ok, MsgIcon::Critical, "Create Mark Index");
+    platform.ui.MsgBox(failure.description, MsgButtons::Ok, MsgIcon::Critical, "Create Mark Index");
     return false;
   }
 }

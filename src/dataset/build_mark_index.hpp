@@ -14,13 +14,14 @@
 namespace benchlog {
 
 // Scans the dataset line by line, fills `markIndex` (cleared first) and writes every record, then
-// the sentinel with the dataset's length, to `indexPath`, created anew. A record's PhotoFlag and
+// the sentinel with the dataset's length, to a work file that replaces `indexPath` when it is whole. A record's PhotoFlag and
 // SketchFlag tell whether "<PID>ph.jpg" and "<PID>sk.jpg" lie in the dataset's folder. Advances
 // the progress bar one step per Description while its value is below its maximum, and hides the
 // dialog at the end; a caller that wants a progress display shows it first.
 // A failure (a missing dataset, an unwritable index) is trapped here: the files are closed, the
-// dialog hidden and the failure's text shown in a critical box titled "Create Mark Index"; the
-// index keeps what was made so far, and false is returned.
+// dialog hidden and the failure's text shown in a critical box titled "Create Mark Index";
+// `markIndex` keeps what was made so far, the ".ndx" file stays as it was (its sentinel then no
+// longer matches a changed dataset, so the next opening rebuilds it), and false is returned.
 bool BuildMarkIndex(const std::string& datasetPath, const std::string& indexPath, MarkIndex& markIndex,
                     Platform& platform);
 

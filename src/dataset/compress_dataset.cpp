@@ -1,13 +1,10 @@
 #include "dataset/compress_dataset.hpp"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
-#include "common/paths.hpp"
 #include "common/runtime_failure.hpp"
-#include "session/dataset_paths.hpp"
 #include "dataset/dataset_text.hpp"
 #include "common/line_writer.hpp"
 
@@ -57,29 +54,21 @@ void CopyKeptLines(LineReader& in, LineWriter& out, Progress& progress) {
 
 std::string CompressDataset(const std::string& datasetPath, Platform& platform) {
   std::string errorText;
-  bool madeWorkFile = false;
-  const std::string workFile = JoinPath(platform.paths.appPath, kCompressWorkFile);
   try {
-    {
-      errorText = "Unable to open .dat file for reading.";
-      LineReader in(datasetPath);
-      const std::uint64_t length = FileLength(datasetPath);
-      errorText = "Unable to open a file in the product directory for writing.";
-      if (IsSameFile(datasetPath, workFile)) throw PathFileAccessError();  // never write over the dataset
-      LineWriter out(workFile);
-      madeWorkFile = true;
-      if (length > kBytesPerStep) ShowCompressProgress(length, platform);
-      CopyKeptLines(in, out, platform.dlgProcessing);
-      out.Close();
-    }
+    errorText = "Unable to open .dat file for reading.";
+    LineReader in(datasetPath);
+    const std::uint64_t length = FileLength(datasetPath);
+    errorText = "Unable to open a file in the product directory for writing.";
+    LineWriter out(datasetPath);  // a work file beside the dataset, moved over it at Close()
+    if (length > kBytesPerStep) ShowCompressProgress(length, platform);
+    CopyKeptLines(in, out, platform.dlgProcessing);
     platform.dlgProcessing.Hide();
     errorText = "Unable to write to .dat file.";
-    ReplaceFile(workFile, datasetPath);
+    out.Close();
     return "";
-  } catch (const std::exception& failure) {
+  } catch (const RuntimeFailure& failure) {
     platform.dlgProcessing.Hide();
-    if (madeWorkFile) DeleteFileIfExists(workFile);
-    platform.ui.MsgBox(errorText + "\r\n" + failure.what());
+    platform.ui.MsgBox(errorText + "\r\n" + failure.description);
     return errorText;
   }
 }

@@ -1,13 +1,14 @@
 #include "dataset/dataset_file_commands.hpp"
 
-#include "session/dataset_paths.hpp"
 #include "common/files.hpp"
 #include "common/line_input.hpp"
+#include "common/line_writer.hpp"
 #include "common/paths.hpp"
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/compress_dataset.hpp"
+#include "dataset/dataset_size_limit.hpp"
 #include "session/dataset_paths.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/frm_get_file.hpp"
@@ -37,14 +38,27 @@ void ReindexBehindProgress(Session& session, Platform& platform, const char* lab
   BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, platform);
 }
 
-// Copies the files line by line into `target`, each line ended by CR LF.
-void CopyLines(const std::vector<std::string>& sources, const std::string& target) {
-  std::string text;
+// The combined text is at least as long as its sources together: every line keeps its bytes and
+// gains a CR LF where it ended in a lone CR or in nothing.
+std::uint64_t SourcesLength(const std::vector<std::string>& sources) {
+  std::uint64_t length = 0;
+  for (const auto& source : sources) length += FileLength(source);
+  return length;
+}
+
+// Copies the files line by line into `target`, each line ended by CR LF; "" when it was written
+// whole, otherwise the refusal of a result past the dataset size limit, `target` being untouched.
+std::string CopyLines(const std::vector<std::string>& sources, const std::string& target) {
+  LineWriter out(target);  // a work file beside the target, moved over it when whole
   for (const auto& source : sources) {
     LineReader reader(source);
-    for (std::string_view line; reader.ReadLine(line);) text.append(line).append(kCrLf);
+    for (std::string_view line; reader.ReadLine(line);) {
+      out.WriteLine(line);
+      if (!FitsSizeLimit(out.BytesWritten())) return SizeLimitRefusal(out.BytesWritten());
+    }
   }
-  WriteWholeFile(target, text);
+  out.Close();
+  return "";
 }
 
 }  // namespace
@@ -101,10 +115,14 @@ void mnuCombineDat(Session& session, Platform& platform) {
   platform.ui.Hide(dialog);
   if (dialog.Tag == "Canceled") return;
 
-  // The whole combined text is written first, then moved over the chosen name in one step.
-  const std::string work = JoinPath(platform.paths.appPath, "temp.tmp");
-  CopyLines(dialog.SelectedPaths(), work);
-  ReplaceFile(work, combined);
+  // The whole combined text is written beside the chosen file, then moved over it in one step.
+  const std::vector<std::string> sources = dialog.SelectedPaths();
+  std::string refusal = SizeLimitRefusal(SourcesLength(sources));
+  if (refusal.empty()) refusal = CopyLines(sources, combined);
+  if (!refusal.empty()) {
+    platform.ui.MsgBox(refusal, MsgButtons::Ok, MsgIcon::Exclamation, "Combine .dat Files");
+    return;
+  }
   platform.ui.MsgBox("Files combined.", MsgButtons::Ok, MsgIcon::None, "Combine .dat Files");
 }
 

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "common/files.hpp"
+#include "common/line_writer.hpp"
 #include "common/runtime_failure.hpp"
 #include "dataset/mark_lookup.hpp"
 
@@ -49,13 +50,9 @@ std::string BlankDescription(const MarkIndex& markIndex, const std::string& data
   const std::int64_t next = at.next == 0 ? 1 : at.next;
   const std::int64_t length = next - start;
   if (length <= 2) return "";
+  if (!FileExists(datasetPath) || IsReadOnly(datasetPath)) return "Unable to open .dat file for writing.";
   try {
-    OpenFile out(datasetPath, "r+b");
-    if (!out.file) return "Unable to open .dat file for writing.";
-    const std::string blanks = std::string(static_cast<std::size_t>(length - 2), ' ') + "\r\n";
-    if (!SeekTo(out.file, start) || std::fwrite(blanks.data(), 1, blanks.size(), out.file) != blanks.size())
-      throw PathFileAccessError();
-    if (std::fflush(out.file) != 0) throw PathFileAccessError();
+    OverwriteAt(datasetPath, static_cast<std::uint64_t>(start - 1), std::string(static_cast<std::size_t>(length - 2), ' ') + "\r\n");
     return "";
   } catch (const RuntimeFailure& failure) {
     return failure.description;

@@ -1,9 +1,9 @@
 #include "dataset/load_dataset_index.hpp"
 
-#include <stdexcept>
-
 #include "common/files.hpp"
+#include "common/runtime_failure.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "dataset/dataset_size_limit.hpp"
 #include "session/dataset_paths.hpp"
 #include "session/index_record.hpp"
 
@@ -21,6 +21,12 @@ void EnableListingCommands(Session& session) {
   session.menu["mnuViewHcl"].enabled = FileExists(session.outputs.HclFile);
   session.menu["mnuViewVcl"].enabled = FileExists(session.outputs.VclFile);
   session.menu["mnuViewError"].enabled = FileExists(session.outputs.ErrFile);
+}
+
+void WarnIfOversize(const std::string& datasetPath, Platform& platform) {
+  const std::uint64_t length = FileLength(datasetPath);
+  if (!FitsSizeLimit(length))
+    platform.ui.MsgBox(OversizeDatasetMessage(datasetPath, length), MsgButtons::Ok, MsgIcon::Exclamation, "Dataset too large");
 }
 
 }  // namespace
@@ -47,10 +53,11 @@ bool LoadDatasetIndex(Session& session, Platform& platform) {
     }
     session.shell.caption = session.dataset.DatFile;
     EnableListingCommands(session);
+    WarnIfOversize(session.dataset.DatFile, platform);
     return madeNew;
-  } catch (const std::exception& failure) {
+  } catch (const RuntimeFailure& failure) {
     platform.dlgProcessing.Hide();
-    platform.ui.MsgBox(failure.what(), MsgButtons::Ok, MsgIcon::Critical);
+    platform.ui.MsgBox(failure.description, MsgButtons::Ok, MsgIcon::Critical);
     return false;
   }
 }

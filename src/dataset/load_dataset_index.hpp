@@ -14,7 +14,8 @@ namespace benchlog {
 //  - a dataset with no index: builds it behind the progress dialog ("Creating index...") and
 //    shows "Index file created.".
 // Then sets session.shell.caption to the dataset path and enables "mnuViewHcl", "mnuViewVcl" and
-// "mnuViewError" exactly when the ".hcl", ".vcl" and ".err" files exist.
+// "mnuViewError" exactly when the ".hcl", ".vcl" and ".err" files exist, and warns in a box when
+// the dataset is past the size limit (OversizeDatasetMessage).
 // Returns true when it made a new index. A failure is shown in a critical box and gives false.
 bool LoadDatasetIndex(Session& session, Platform& platform);
 

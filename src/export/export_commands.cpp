@@ -117,8 +117,8 @@ void ViewListing(Session& session, Platform& platform, const std::string& path, 
 void mnuExport(Session& session, Platform& platform) {
   try {
     RunExportCommand(session, platform);
-  } catch (const std::exception&) {
-    // The command's failures, a cancelled save dialog among them, end it without a report.
+  } catch (const RuntimeFailure&) {
+    // The command's run-time failures, a cancelled save dialog among them, end it without a report.
     platform.dlgProcessing.Hide();
   }
 }

@@ -5,6 +5,7 @@
 
 #include "common/format.hpp"
 #include "common/paths.hpp"
+#include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "dataset/picture_folder.hpp"
 #include "export/export_forms.hpp"
@@ -133,8 +134,12 @@ void ExportFiles(Session& session, Platform& platform, TextBlocks& strMkData, co
   ErrMsg.clear();
   try {
     RunExport(session, platform, strMkData, OutFileName, ErrMsg);
-  } catch (const std::exception&) {
-    // A run-time failure ends the export without a report; the files close as they stand.
+  } catch (const WriteFailure& failure) {
+    // An output that could not be written keeps its old file; the command shows why.
+    platform.dlgProcessing.Hide();
+    ErrMsg = failure.description;
+  } catch (const RuntimeFailure&) {
+    // Any other run-time failure ends the export without a report; the old outputs stay.
   }
 }
 

@@ -12,13 +12,14 @@ namespace benchlog {
 // the names formed from `OutFileName` (export_names.hpp), which also become the session's HclFile,
 // VclFile, SA6File and ErrFile. In order: the zone's line is looked up by the first 5 characters of
 // cboProjZone, the progress dialog shows "Processing " and "Please wait...", the ticked outputs are
-// opened (an existing file is deleted; a read-only one sets `ErrMsg` to "<path> exists and is
+// opened (an existing file stays until its new text replaces it whole; a read-only one sets `ErrMsg` to "<path> exists and is
 // read-only!", closes what was opened, hides the dialog and ends the export), the Descriptions are
 // counted for the progress bar, each is parsed (ParsedMarks) and its working values computed and
 // written to every output, the listings are sorted and headed, the dialog is hidden and "Processing
-// complete!" is shown in a box titled "Create File(s)". `ErrMsg` is emptied on entry. A run-time
-// failure (a coordinate text too wide for its column, a file that cannot be written) ends the
-// export without a report; what was written stays.
+// complete!" is shown in a box titled "Create File(s)". `ErrMsg` is emptied on entry. A file that
+// cannot be written (WriteFailure) ends the export with the failure's text in `ErrMsg`; any other
+// run-time failure (a coordinate text too wide for its column) ends it without a report. Either
+// way the old outputs stay as they were. Other exceptions reach the caller.
 void ExportFiles(Session& session, Platform& platform, TextBlocks& strMkData, const std::string& OutFileName,
                  std::string& ErrMsg);
 

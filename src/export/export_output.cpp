@@ -10,7 +10,6 @@ bool PrepareOutputPath(const std::string& path, std::string& ErrMsg) {
     ErrMsg = path + " exists and is read-only!";
     return false;
   }
-  DeleteFileIfExists(path);
   return true;
 }
 

@@ -21,8 +21,9 @@ class ExportOutput {
   virtual void Finish() = 0;
 };
 
-// Makes way for an output at `path`: a file that exists there is deleted, unless it is read-only;
-// then `ErrMsg` becomes the path and " exists and is read-only!" and the result is false.
+// Checks that an output may take `path`: a file that exists there and is read-only makes `ErrMsg`
+// the path and " exists and is read-only!" and the result false. An old file is not deleted: the
+// output replaces it when its new text is whole, so an export that fails leaves it as it was.
 bool PrepareOutputPath(const std::string& path, std::string& ErrMsg);
 
 }  // namespace benchlog

@@ -9,27 +9,28 @@
 
 namespace benchlog {
 
-ListingFile::ListingFile(const std::string& path) : path_(path), writer_(path) {}
+ListingFile::ListingFile(const std::string& path) : path_(path), unsorted_(path) {}
 
 void ListingFile::Write(std::string_view printed) {
   // The writer ends each line itself.
   if (printed.ends_with(kCrLf)) printed.remove_suffix(2);
-  writer_.WriteLine(printed);
+  unsorted_.WriteLine(printed);
 }
 
 void ListingFile::Finish(std::string_view heading) {
-  writer_.Close();
-  SortAndHeadListing(path_, heading);
+  unsorted_.Flush();
+  SortAndHeadListing(ReadWholeFile(unsorted_.WorkPath()), path_, heading);
+  unsorted_.Abandon();  // the unsorted pass has served
 }
 
-void SortAndHeadListing(const std::string& path, std::string_view heading) {
-  if (FileLength(path) == 0) return;
-  const std::string written = ReadWholeFile(path);
-  std::vector<std::string_view> lines = SplitViews(written, kCrLf);
-  SortByColumn(lines, 1);
+void SortAndHeadListing(const std::string& unsorted, const std::string& path, std::string_view heading) {
   LineWriter out(path);
-  out.WriteLine(heading.ends_with(kCrLf) ? heading.substr(0, heading.size() - 2) : heading);
-  for (const std::string_view line : lines) out.WriteLine(line);
+  if (!unsorted.empty()) {
+    std::vector<std::string_view> lines = SplitViews(unsorted, kCrLf);
+    SortByColumn(lines, 1);
+    out.WriteLine(heading.ends_with(kCrLf) ? heading.substr(0, heading.size() - 2) : heading);
+    for (const std::string_view line : lines) out.WriteLine(line);
+  }
   out.Close();
 }
 

@@ -1,5 +1,6 @@
 #include "session/frm_view.hpp"
 
+#include <charconv>
 #include <string>
 
 #include "session/command_table.hpp"
@@ -14,22 +15,22 @@ namespace {
 
 constexpr const char* kSection = "frmView";
 
-long SettingNumber(const SettingsStore& settings, const char* key, const char* defaultValue) {
-  try {
-    return std::stol(settings.GetSetting(kSection, key, defaultValue));
-  } catch (const std::exception&) {
-    return std::stol(defaultValue);
-  }
+// A setting that is no whole number (edited by hand) gives the default.
+long SettingNumber(const SettingsStore& settings, const char* key, long defaultValue) {
+  const std::string text = settings.GetSetting(kSection, key, std::to_string(defaultValue));
+  long value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && end != text.data() ? value : defaultValue;
 }
 
 }  // namespace
 
 void frmView::Load(const SettingsStore& settings) {
-  placement.state = static_cast<int>(SettingNumber(settings, "Windowstate", "0"));
-  placement.top = SettingNumber(settings, "Top", "0");
-  placement.left = SettingNumber(settings, "Left", "0");
-  placement.height = SettingNumber(settings, "Height", "8475");
-  placement.width = SettingNumber(settings, "Width", "9255");
+  placement.state = static_cast<int>(SettingNumber(settings, "Windowstate", 0));
+  placement.top = SettingNumber(settings, "Top", 0);
+  placement.left = SettingNumber(settings, "Left", 0);
+  placement.height = SettingNumber(settings, "Height", 8475);
+  placement.width = SettingNumber(settings, "Width", 9255);
 }
 
 void frmView::Unload(SettingsStore& settings) {

@@ -46,19 +46,5 @@ TEST(Files, IsReadOnlyWhenTheFileCannotBeWritten) {
   EXPECT_FALSE(IsReadOnly(path));
 }
 
-TEST(Files, ReplaceFileLeavesTheTargetWhole) {
-  TempFolder folder;
-  const std::string target = folder.File("set.dat"), fresh = folder.File("Temp.dat");
-  WriteWholeFile(target, "old\r\n");
-  WriteWholeFile(fresh, "new\r\n");
-  ReplaceFile(fresh, target);
-  EXPECT_EQ(ReadWholeFile(target), "new\r\n");
-  EXPECT_FALSE(FileExists(fresh));
-  // With nothing to move the target stays as it was and nothing is left beside it.
-  EXPECT_EQ(FailureOf([&] { ReplaceFile(fresh, target); }), kFileNotFound);
-  EXPECT_EQ(ReadWholeFile(target), "new\r\n");
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder.File("")), fs::directory_iterator()), 1);
-}
-
 }  // namespace
 }  // namespace benchlog

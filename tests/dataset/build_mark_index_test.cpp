@@ -150,7 +150,8 @@ TEST(BuildMarkIndex, AnUnwritableIndexIsReported) {
   MarkIndex index;
   EXPECT_FALSE(BuildMarkIndex(dat, folder.File("no/such/folder.ndx"), index, fake.platform));
   ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "Path/File access error");
+  EXPECT_EQ(fake.ui.messages[0].text,
+            "Path/File access error: could not write " + folder.File("no/such/folder.ndx") + " (No such file or directory)");
 }
 
 }  // namespace

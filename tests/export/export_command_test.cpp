@@ -11,6 +11,8 @@
 #include "common/text.hpp"
 #include "export/export_commands.hpp"
 #include "export/export_run_support.hpp"
+#include "fakes/file_size_limit.hpp"
+#include "fakes/folder_snapshot.hpp"
 #include "session/frm_select_points.hpp"
 #include "session/frm_view.hpp"
 
@@ -86,21 +88,37 @@ TEST_F(ExportCommand, NamesTheOutputsFromTheChosenNameWithoutItsExtension) {
   }
 }
 
-// The listings are opened in order, each old file deleted first: a read-only ".vcl" is found
-// after the ".hcl" was already emptied.
-TEST_F(ExportCommand, AReadOnlyVclLeavesAnEmptyHclBehind) {
+// The listings are opened in order; a read-only ".vcl" stops the export before any listing is
+// written, and the old ".hcl" stays as it was.
+TEST_F(ExportCommand, AReadOnlyVclLeavesTheOldHclAsItWas) {
   folder.Write("export.hcl", "old horizontal listing\r\n");
   MakeReadOnly(folder.Write("export.vcl", "old vertical listing\r\n"));
+  const auto before = FolderSnapshot(folder.Path());
   RunExport(Out("export.txt"));
 
   ASSERT_EQ(fake.ui.messages.size(), 1u);
   EXPECT_EQ(fake.ui.messages[0].text, Out("export.vcl") + " exists and is read-only!");
   EXPECT_EQ(fake.ui.messages[0].title, "Export Files");
-  EXPECT_TRUE(FileExists(Out("export.hcl")));
-  EXPECT_EQ(FileLength(Out("export.hcl")), 0u);
-  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), "old vertical listing\r\n");
+  EXPECT_EQ(FolderSnapshot(folder.Path()), before);  // no work file either
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_TRUE(session.menu["mnuViewHcl"].enabled);
+}
+
+// A listing that cannot be written whole (a full disk) leaves both old listings as they were, and
+// the command names the file and the reason.
+TEST_F(ExportCommand, AFailedWriteLeavesTheOldListings) {
+  folder.Write("export.hcl", "old horizontal listing\r\n");
+  folder.Write("export.vcl", "old vertical listing\r\n");
+  const auto before = FolderSnapshot(folder.Path());
+  {
+    FileSizeLimit limit(64);
+    RunExport(Out("export.txt"));
+  }
+  EXPECT_EQ(FolderSnapshot(folder.Path()), before);
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text, "Path/File access error: could not write " + Out("export.hcl") + " (File too large)");
+  EXPECT_EQ(fake.ui.messages[0].title, "Export Files");
+  EXPECT_FALSE(fake.progress.Visible());
 }
 
 TEST_F(ExportCommand, AReadOnlyHclStopsBeforeTheVclIsTouched) {
@@ -200,17 +218,15 @@ TEST_F(ExportCommand, MoreThanTenThousandChosenMarksEndWithoutAWord) {
 }
 
 // A coordinate text wider than its 12 columns (eight integer digits with decimals) ends the
-// export through its error handling: no report, the listings left as they stood, unsorted and
-// without heading.
+// export through its error handling: no report, and the old listings stay as they were.
 TEST_F(ExportCommand, ACoordinateTooWideForItsColumnEndsTheExport) {
   OpenDataset("tx.dat");
   Choose("TX SC 4204", true, false);
+  folder.Write("export.vcl", "old vertical listing\r\n");
+  const auto before = FolderSnapshot(folder.Path());
   RunExport(Out("export.txt"));
   EXPECT_TRUE(Messages().empty());
-  EXPECT_EQ(FileLength(Out("export.hcl")), 0u);
-  // The scaled mark before it was written: its line, broken at the elevation, as printed.
-  const std::vector<std::string> sorted = SplitCrLf(ListingFixture("tx_break.vcl"));
-  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), sorted[3] + "\r\n" + sorted[2] + "\r\n");
+  EXPECT_EQ(FolderSnapshot(folder.Path()), before);
   EXPECT_FALSE(fake.progress.Visible());
 }
 
@@ -220,7 +236,7 @@ TEST_F(ExportCommand, ADescriptionWithoutPositionIsProjectedFromZero) {
   OpenDataset("nopos.dat");
   RunExport(Out("export.txt"));
   EXPECT_FALSE(Completed());
-  EXPECT_EQ(FileLength(Out("export.vcl")), 0u);
+  EXPECT_FALSE(FileExists(Out("export.vcl")));
 }
 
 // With a zone whose projection kind is none of "LC", "TM", "OM" (or a zone not in the table)

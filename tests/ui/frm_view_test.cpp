@@ -2,6 +2,7 @@
 // typing, Esc and Save As, all through the model.
 #include <QAction>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -159,6 +160,50 @@ class FrmViewTest : public QObject {
       QCOMPARE(qt::ModelPosition(bytes, display), model);
       QCOMPARE(qt::DisplayPosition(bytes, model), display);
     }
+  }
+
+  // The text is the file's bytes: edits elsewhere and Save As keep lone CRs and LFs, CR LFs and
+  // the code page's upper half byte for byte; a line break typed becomes CR LF.
+  void anEditKeepsEveryOtherByte() {
+    Fixture f;
+    std::string bytes = "AB\rCD\nEF\r\nGH ";
+    for (int c = 0x80; c <= 0xFF; ++c) bytes += static_cast<char>(c);
+    bytes += "\r\nend";
+    f.model->txtViewFile = bytes;
+    f.window->LoadFromModel();
+    QPlainTextEdit* box = f.window->TextBox();
+    box->setFocus();
+    QTest::keyClicks(box, "x");  // at the start
+    QTest::keyClick(box, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTest::keyClicks(box, "yz");
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QCOMPARE(f.model->txtViewFile, "x" + bytes + "\r\ny");
+    const std::string path = f.folder.File("saved.txt");
+    f.fake.ui.fileAnswers.push_back(path);
+    f.window->mnuFileSaveAs()->trigger();
+    QCOMPARE(ReadWholeFile(path), "x" + bytes + "\r\ny");
+  }
+
+  // A keystroke changes its own bytes only, so typing in a text of 5 MB stays instant.
+  void typingInALongTextStaysInstant() {
+    Fixture f;
+    std::string text;
+    while (text.size() < 5'000'000) text += Text();
+    f.model->txtViewFile = text;
+    f.window->LoadFromModel();
+    QPlainTextEdit* box = f.window->TextBox();
+    box->setFocus();
+    QTextCursor cursor = box->textCursor();
+    cursor.setPosition(qt::DisplayPosition(text, text.size() / 2));
+    box->setTextCursor(cursor);
+    QElapsedTimer timer;
+    timer.start();
+    QTest::keyClicks(box, "0123456789");
+    const qint64 perKey = timer.elapsed() / 10;
+    qInfo("one keystroke in a 5 MB text: %lld ms", static_cast<long long>(perKey));
+    QCOMPARE(f.model->txtViewFile, text.substr(0, text.size() / 2) + "0123456789" + text.substr(text.size() / 2));
+    QVERIFY2(perKey < 100, "a keystroke took 100 ms or more");
   }
 
   void saveAsWritesTheText() {

@@ -230,7 +230,9 @@ TEST(frmView, SaveAsCancelledOrUnwritable) {
   EXPECT_TRUE(s.fake.ui.messages.empty());
   s.fake.ui.fileAnswers.push_back(s.folder.File("no/such/folder/out.txt"));
   s.view.mnuFileSaveAs(s.fake.ui);
-  EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{"Path/File access error"});
+  EXPECT_EQ(s.fake.ui.MessageTexts(),
+            std::vector<std::string>{"Path/File access error: could not write " + s.folder.File("no/such/folder/out.txt") +
+                                     " (No such file or directory)"});
 }
 
 TEST(frmView, PrintIsNotThereYet) {

@@ -8,7 +8,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QTextDocument>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "session/session.hpp"
 #include "platform/platform.hpp"
@@ -36,10 +38,13 @@ FrmViewWindow::FrmViewWindow(frmView& model, QWidget* parent) : ModelDialog(pare
   client_->installEventFilter(this);
   txtViewFile_->viewport()->installEventFilter(this);
 
-  // The caret can move before the text is taken, so both take the caret again.
-  connect(txtViewFile_, &QPlainTextEdit::textChanged, this, [this] {
+  // Each edit changes only its own bytes of the model, so a keystroke costs the same in a long
+  // text as in a short one, and the bytes around it (lone CRs and LFs, the code page's upper
+  // half) stay as the file had them. The caret can move before the text is taken, so both take
+  // the caret again.
+  connect(txtViewFile_->document(), &QTextDocument::contentsChange, this, [this](int position, int removed, int added) {
     if (filling_) return;
-    model_.txtViewFile = FromDisplayText(txtViewFile_->toPlainText());
+    ApplyDisplayEdit(model_.txtViewFile, position, removed, ShownText(position, added));
     TakeCaret();
   });
   connect(txtViewFile_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
@@ -82,6 +87,14 @@ void FrmViewWindow::BuildMenus(QMenuBar* bar) {
     ShowState();
   });
   connect(mnuExit_, &QAction::triggered, this, [this] { CloseView(); });
+}
+
+QString FrmViewWindow::ShownText(int position, int length) const {
+  QTextCursor cursor(txtViewFile_->document());
+  const int end = txtViewFile_->document()->characterCount() - 1;  // behind it: the closing separator
+  cursor.setPosition(std::min(position, end));
+  cursor.setPosition(std::min(position + length, end), QTextCursor::KeepAnchor);
+  return cursor.selectedText();
 }
 
 std::string FrmViewWindow::HostDatFilePath() const { return model_.session ? model_.session->dataset.DatFilePath : ""; }

@@ -49,6 +49,7 @@ class FrmViewWindow : public ModelDialog {
   void ApplyPlacement();
   void TakePlacement();
   std::string HostDatFilePath() const;
+  QString ShownText(int position, int length) const;  // as the widget holds it
   std::string CheckPicture(const std::string& path);
 
   frmView& model_;
