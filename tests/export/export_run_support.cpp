@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "fakes/test_paths.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "export/export_commands.hpp"
@@ -20,10 +21,10 @@ constexpr const char* kPictures[] = {"DH7190ph.jpg", "DH7190sk.jpg", "EZ1203ph.j
 }  // namespace
 
 std::string ListingFixture(const std::string& name) {
-  return ReadWholeFile(std::string(BENCHLOG_TEST_DATA) + "/export/listings/" + name);
+  return ReadWholeFile(TestData("export/listings/" + name));
 }
 
-ExportRunTest::ExportRunTest() : fake(std::string(BENCHLOG_SOURCE_DIR) + "/support") {}
+ExportRunTest::ExportRunTest() { fake.platform.paths.supportPath = SourceSupport(); }
 
 void ExportRunTest::SetUp() {
   SetCurrentEllipsoid({6378137.0, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)});

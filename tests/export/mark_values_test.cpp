@@ -11,6 +11,7 @@
 #include "export/export_test_support.hpp"
 #include "export/mark_values.hpp"
 #include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
 #include "geodesy/angle_text.hpp"
 #include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
@@ -29,7 +30,7 @@ class MarkValuesTest : public ::testing::Test {
 
   static std::string ZoneLine(const std::string& key) {
     std::string line;
-    FindZoneLine(key, "", line, SourceSupportPath());
+    FindZoneLine(key, "", line, SourceSupport());
     return line;
   }
   static MarkRecord Mark(const std::string& pid) {

@@ -3,14 +3,13 @@
 
 #include <set>
 
+#include "fakes/test_paths.hpp"
 #include "export/frm_cdt.hpp"
 #include "export/frm_output_options.hpp"
 #include "fakes/fakes.hpp"
 
 namespace benchlog::testing {
 namespace {
-
-const std::string kSupport = std::string(BENCHLOG_SOURCE_DIR) + "/support/";
 
 std::string Saved(const MemorySettings& settings, const std::string& section, const std::string& key) {
   return settings.GetSetting(section, key, "<none>");
@@ -19,7 +18,7 @@ std::string Saved(const MemorySettings& settings, const std::string& section, co
 TEST(OutputOptions, DefaultsOfAFirstRun) {
   MemorySettings settings;
   frmOutputOptions form;
-  form.Load(settings, kSupport);
+  form.Load(settings, SourceSupport());
   EXPECT_TRUE(form.optAllSta);
   EXPECT_FALSE(form.optSelectedSta);
   EXPECT_EQ(form.FileTypes(), "000000");
@@ -52,7 +51,7 @@ TEST(OutputOptions, FileTypesDigits) {
     MemorySettings settings;
     settings.SaveSetting("frmOutputOptions", "FileTypes", c.saved);
     frmOutputOptions form;
-    form.Load(settings, kSupport);
+    form.Load(settings, SourceSupport());
     EXPECT_EQ(form.chkHoriz, c.horiz) << c.saved;
     EXPECT_EQ(form.chkVert, c.vert) << c.saved;
     EXPECT_EQ(form.chkDB, c.db) << c.saved;
@@ -80,7 +79,7 @@ TEST(OutputOptions, OptionGroupsFromTheSettings) {
     settings.SaveSetting("frmOutputOptions", "ElevM", "False");
     settings.SaveSetting("frmOutputOptions", "AllStations", "False");
     frmOutputOptions form;
-    form.Load(settings, kSupport);
+    form.Load(settings, SourceSupport());
     EXPECT_EQ(form.optFeet, c.optFeet);
     EXPECT_EQ(form.optMeters, c.optMeters);
     EXPECT_EQ(form.optUTM, c.optUTM);
@@ -93,7 +92,7 @@ TEST(OutputOptions, TheScaleFrameFollowsTheMicrostationBox) {
   MemorySettings settings;
   settings.SaveSetting("frmOutputOptions", "FileTypes", "000001");
   frmOutputOptions form;
-  form.Load(settings, kSupport);
+  form.Load(settings, SourceSupport());
   EXPECT_TRUE(form.fraScaleVisible);
   form.chkMicrostation = 0;
   form.chkMicrostation_Click();
@@ -106,7 +105,7 @@ TEST(OutputOptions, TheScaleFrameFollowsTheMicrostationBox) {
 TEST(OutputOptions, OkaySavesEveryControlAndLeavesTheTag) {
   MemorySettings settings;
   frmOutputOptions form;
-  form.Load(settings, kSupport);
+  form.Load(settings, SourceSupport());
   form.SetAllStations(false);
   form.chkHoriz = 1;
   form.chkMicrostation = 1;
@@ -129,7 +128,7 @@ TEST(OutputOptions, OkaySavesEveryControlAndLeavesTheTag) {
 
   // What was saved comes back at the next start.
   frmOutputOptions again;
-  again.Load(settings, kSupport);
+  again.Load(settings, SourceSupport());
   EXPECT_EQ(again.FileTypes(), "100001");
   EXPECT_TRUE(again.optSelectedSta && again.optFeet && again.optElFeet && again.fraScaleVisible);
   EXPECT_EQ(again.cboScale, "1:2400");
@@ -142,7 +141,7 @@ TEST(OutputOptions, OkaySavesEveryControlAndLeavesTheTag) {
 TEST(Cdt, StateAtLoad) {
   MemorySettings settings;
   frmCDT form;
-  form.Load(settings, kSupport);
+  form.Load(settings, SourceSupport());
   EXPECT_TRUE(form.OptHoriz && !form.Optvert && !form.optBoth);
   std::set<std::string> names, ticked;
   for (const auto& box : frmCDT::Boxes()) {
@@ -169,7 +168,7 @@ TEST(Cdt, SettingsOfItsSection) {
   settings.SaveSetting("Settings", "optSurveyFt", "False");
   settings.SaveSetting("frmCDT", "Top", "450");
   frmCDT form;
-  form.Load(settings, kSupport);
+  form.Load(settings, SourceSupport());
   EXPECT_EQ(form.cboSPCZone, "NC   ");
   EXPECT_EQ(form.cboUTMZone, "17");
   EXPECT_TRUE(!form.optUSFt && form.optMeters && !form.optIFt);

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "fakes/test_paths.hpp"
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
@@ -19,7 +20,7 @@ namespace {
 
 TEST(SampleDataset, EveryDescriptionParsesAndMatchesTheIndex) {
   testing::TempFolder folder;
-  const std::string text = ReadWholeFile(std::string(BENCHLOG_SOURCE_DIR) + "/support/samples/sample.dat");
+  const std::string text = ReadWholeFile(testing::SampleDataset());
   const std::string dat = folder.Write("sample.dat", text);
   testing::FakePlatform fake(folder.Path());
   MarkIndex built;

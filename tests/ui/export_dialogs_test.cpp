@@ -14,12 +14,13 @@
 #include "export/ui/frm_cdt_window.hpp"
 #include "export/ui/frm_output_options_window.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_paths.hpp"
 
 using namespace benchlog;
 
 namespace {
 
-const std::string kSupport = std::string(BENCHLOG_SOURCE_DIR) + "/support/";
+const std::string kSupport = testing::SourceSupport();
 
 template <class Widget, class Window>
 Widget* Find(const Window& window, const char* name) {

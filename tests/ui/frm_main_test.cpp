@@ -11,6 +11,7 @@
 #include "app/menu_tree.hpp"
 #include "app/ui/frm_main.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_paths.hpp"
 
 using namespace benchlog;
 
@@ -31,7 +32,7 @@ void Walk(QMenu* menu, QList<Row>& rows) {
 
 QList<Row> ExpectedRows() {
   QList<Row> rows;
-  std::ifstream in(BENCHLOG_TEST_DATA "/app/menu_tree.txt");
+  std::ifstream in(testing::TestData("app/menu_tree.txt"));
   for (std::string line; std::getline(in, line);) {
     if (line.empty() || line[0] == '#') continue;
     const QStringList cells = QString::fromStdString(line).split('|');
