@@ -1,6 +1,7 @@
 // The working values of a mark: position texts, the projection by the zone's kind, the coordinate
-// texts and their patterns, the combined factors, UTM and the picture flags. The plane and UTM
-// figures are those printed on the sample's data sheets (support/samples/sample.dat).
+// texts and their patterns, the combined factors and UTM (the picture flags show in the golden
+// listings). The plane and UTM figures are those printed on the sample's data sheets
+// (support/samples/sample.dat).
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,7 +11,6 @@
 #include "common/runtime_failure.hpp"
 #include "export/export_test_support.hpp"
 #include "export/mark_values.hpp"
-#include "fakes/temp_folder.hpp"
 #include "fakes/test_paths.hpp"
 #include "geodesy/angle_text.hpp"
 #include "geodesy/ellipsoid.hpp"
@@ -230,24 +230,6 @@ TEST_F(MarkValuesTest, FactorsAndUtmStayWhenAMarkHasNone) {
   EXPECT_LT(values.UtmEast, 500000) << "west of zone 18's meridian";
   setup.utmZoneText = "99999";
   EXPECT_THROW(ComputeUtmValues(setup, adjusted, values), RuntimeFailure);
-}
-
-TEST_F(MarkValuesTest, PictureFlagsFromTheDatasetFolder) {
-  TempFolder folder;
-  folder.Write("DH7190ph.jpg", "");
-  folder.Write("FY3188sk.jpg", "");
-  const PictureFolder pictures(folder.Path() + "/");
-  struct Case {
-    const char *pid, *photo, *sketch;
-  };
-  for (const Case c : {Case{"DH7190", "Y", " "}, Case{"FY3188", " ", "Y"}, Case{"EZ1203", " ", " "}}) {
-    MarkRecord record;
-    record.Pid = c.pid;
-    MarkValues values;
-    ComputePictureFlags(pictures, record, values);
-    EXPECT_EQ(values.PhotoFlag, c.photo) << c.pid;
-    EXPECT_EQ(values.SketchFlag, c.sketch) << c.pid;
-  }
 }
 
 }  // namespace
