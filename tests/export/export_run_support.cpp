@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "fakes/test_paths.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "export/export_commands.hpp"
+#include "fakes/test_paths.hpp"
 #include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
 #include "session/frm_select_points.hpp"

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/test_paths.hpp"
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog::testing {
 

@@ -3,10 +3,10 @@
 
 #include <set>
 
-#include "fakes/test_paths.hpp"
 #include "export/frm_cdt.hpp"
 #include "export/frm_output_options.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog::testing {
 namespace {

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "fakes/test_paths.hpp"
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/index_record.hpp"
 #include "export/export_test_support.hpp"
 #include "fakes/fakes.hpp"

@@ -9,12 +9,12 @@
 #include <QTest>
 #include <memory>
 
-#include "fakes/test_paths.hpp"
 #include "export/frm_cdt.hpp"
 #include "export/frm_output_options.hpp"
 #include "export/ui/frm_cdt_window.hpp"
 #include "export/ui/frm_output_options_window.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_paths.hpp"
 
 using namespace benchlog;
 

@@ -6,12 +6,12 @@
 #include <QtTest>
 #include <fstream>
 
-#include "fakes/test_paths.hpp"
 #include "app/command_registry.hpp"
 #include "app/main_window.hpp"
 #include "app/menu_tree.hpp"
 #include "app/ui/frm_main.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_paths.hpp"
 
 using namespace benchlog;
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "fakes/test_paths.hpp"
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/frm_select_points.hpp"
 #include "session/frm_view.hpp"
 
