@@ -11,7 +11,6 @@
 namespace benchlog::testing {
 namespace {
 
-
 std::string Saved(const MemorySettings& settings, const std::string& section, const std::string& key) {
   return settings.GetSetting(section, key, "<none>");
 }
