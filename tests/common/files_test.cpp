@@ -3,10 +3,13 @@
 #include <filesystem>
 
 #include "common/files.hpp"
+#include "fakes/temp_folder.hpp"
 #include "test_support.hpp"
 
 namespace benchlog {
 namespace {
+
+using testing::TempFolder;
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;

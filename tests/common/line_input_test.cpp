@@ -4,10 +4,13 @@
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
+#include "fakes/temp_folder.hpp"
 #include "test_support.hpp"
 
 namespace benchlog {
 namespace {
+
+using testing::TempFolder;
 
 using namespace std::string_literals;
 using Lines = std::vector<std::string>;

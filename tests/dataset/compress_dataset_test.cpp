@@ -40,14 +40,6 @@ TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
   }
 }
 
-TEST(CompressDataset, DropsDeletedDescriptions) {
-  TempFolder folder;
-  const std::string dat = CopyFixture(folder, "blanked.dat");
-  FakePlatform fake(folder.Path());
-  EXPECT_EQ(CompressDataset(dat, fake.platform), "");
-  EXPECT_EQ(ReadWholeFile(dat), Fixture("blanked_compressed.dat"));
-}
-
 // 80 lines of 98 characters and CR LF: 8000 bytes.
 std::string Lines(int count) {
   std::string text;

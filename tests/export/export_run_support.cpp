@@ -5,6 +5,7 @@
 #include "common/files.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "export/export_commands.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/frm_select_points.hpp"
 
 namespace benchlog::testing {
@@ -18,10 +19,10 @@ constexpr const char* kPictures[] = {"DH7190ph.jpg", "DH7190sk.jpg", "EZ1203ph.j
 }  // namespace
 
 std::string ListingFixture(const std::string& name) {
-  return ReadWholeFile(std::string(BENCHLOG_TEST_DATA) + "/export/listings/" + name);
+  return ReadWholeFile(TestData("export/listings/" + name));
 }
 
-ExportRunTest::ExportRunTest() : fake(std::string(BENCHLOG_SOURCE_DIR) + "/support") {}
+ExportRunTest::ExportRunTest() { fake.platform.paths.supportPath = SourceSupport(); }
 
 void ExportRunTest::SetUp() {
   session.config.ellipsoidA = 6378137.0;

@@ -5,19 +5,18 @@
 #include "common/files.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog::testing {
 
-std::string SourceSupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }
-
 SupportFiles& SourceSupportFiles() {
   static SupportFiles files;
-  files.Refresh(SourceSupportPath(), {});
+  files.Refresh(SourceSupport(), {});
   return files;
 }
 
 std::vector<std::string> ExportFixtureLines(const std::string& name) {
-  return SplitCrLf(ReadWholeFile(std::string(BENCHLOG_TEST_DATA) + "/export/" + name));
+  return SplitCrLf(ReadWholeFile(TestData("export/" + name)));
 }
 
 std::string DataLine(const std::string& pid, std::initializer_list<std::pair<std::size_t, std::string>> pieces) {

@@ -10,8 +10,6 @@
 
 namespace benchlog::testing {
 
-// The support folder of the source tree, ending in "/".
-std::string SourceSupportPath();
 // The support tables of that folder.
 SupportFiles& SourceSupportFiles();
 

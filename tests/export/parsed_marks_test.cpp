@@ -16,6 +16,7 @@
 #include "export/export_test_support.hpp"
 #include "dataset/find_descriptions.hpp"
 #include "export/parsed_marks.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog::testing {
 namespace {
@@ -77,8 +78,8 @@ TEST(ParsedMarks, AreTheParsersRecordsInTheTextsOrder) {
 // file that cannot be found, at the first mark. A second call fails alike.
 TEST(ParsedMarks, HandOnAFailureAtItsMark) {
   for (const auto& [text, supportPath, good, failure] :
-       {std::tuple{Samples(1) + "1", SourceSupportPath(), 45, kSubscriptOutOfRange},
-        {Samples(8) + "1", SourceSupportPath(), 8 * 45, kSubscriptOutOfRange},
+       {std::tuple{Samples(1) + "1", SourceSupport(), 45, kSubscriptOutOfRange},
+        {Samples(8) + "1", SourceSupport(), 8 * 45, kSubscriptOutOfRange},
         {Samples(1), std::string("/nonexistent/"), 0, kFileNotFound}}) {
     TextBlocks blocks(text);
     SupportFiles support;

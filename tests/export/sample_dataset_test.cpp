@@ -9,6 +9,7 @@
 #include "common/line_input.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/index_record.hpp"
 #include "export/export_test_support.hpp"
 #include "fakes/fakes.hpp"
@@ -19,7 +20,7 @@ namespace {
 
 TEST(SampleDataset, EveryDescriptionParsesAndMatchesTheIndex) {
   testing::TempFolder folder;
-  const std::string text = ReadWholeFile(std::string(BENCHLOG_SOURCE_DIR) + "/support/samples/sample.dat");
+  const std::string text = ReadWholeFile(testing::SampleDataset());
   const std::string dat = folder.Write("sample.dat", text);
   testing::FakePlatform fake(folder.Path());
   MarkIndex built;

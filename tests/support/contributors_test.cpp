@@ -10,13 +10,13 @@
 #include "support_files/contributors.hpp"
 #include "export/parser/note_header.hpp"
 #include "sample_lines.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog {
 namespace {
 
 TEST(Contributors, NamesAreFoundWhateverTheirCaseAndBlanks) {
-  const auto table = ContributorTable::Load(test::FixtureSupport() + kContributorsFileName);
+  const auto table = ContributorTable::Load(testing::TestData("support/") + kContributorsFileName);
   struct Case { const char* name; const char* code; };
   const Case cases[] = {
       {"ORBIS CONTROL OFFICE", "OCO"},   {"Orbis Control Office", "OCO"},  // the first line wins over XXX
@@ -29,12 +29,12 @@ TEST(Contributors, NamesAreFoundWhateverTheirCaseAndBlanks) {
   for (const auto& c : cases) EXPECT_EQ(table.CodeOf(c.name), c.code) << c.name;
   EXPECT_EQ(table.Size(), 4u);
   EXPECT_EQ(table.GroupOf("Us Power Squadron"), "VOLUN");
-  EXPECT_EQ(ContributorCode(test::FixtureSupport(), "us coastal control office"), "CCO");
+  EXPECT_EQ(ContributorCode(testing::TestData("support/"), "us coastal control office"), "CCO");
 }
 
 TEST(Contributors, MissingFileIsAFileNotFoundFailure) {
   try {
-    ContributorCode(test::FixtureSupport() + "nowhere/", "OCO");
+    ContributorCode(testing::TestData("support/") + "nowhere/", "OCO");
     ADD_FAILURE() << "no failure";
   } catch (const RuntimeFailure& failure) {
     EXPECT_EQ(failure.number, kFileNotFound);
@@ -68,7 +68,7 @@ TEST(NoteHeader, SplitsAgencyYearAndInitials) {
 }
 
 ContributorTable CommittedTable() {
-  return ContributorTable::Load(test::CommittedSupport() + kContributorsFileName);
+  return ContributorTable::Load(testing::SourceSupport() + kContributorsFileName);
 }
 
 TEST(CommittedContributors, NamedAgenciesAndTheirCodes) {
@@ -85,10 +85,10 @@ TEST(CommittedContributors, NamedAgenciesAndTheirCodes) {
 
 TEST(CommittedContributors, CodesFitSixColumnsAndGroupsAreKnown) {
   std::set<std::string> groups;
-  LineReader groupsFile(test::CommittedSupport() + "Groups.dat");
+  LineReader groupsFile(testing::SourceSupport() + "Groups.dat");
   std::string line;
   while (groupsFile.ReadLine(line)) groups.insert(Trim(Mid(line, 1, 6)));
-  const auto lines = SplitCrLf(ReadWholeFile(test::CommittedSupport() + kContributorsFileName));
+  const auto lines = SplitCrLf(ReadWholeFile(testing::SourceSupport() + kContributorsFileName));
   ASSERT_GT(lines.size(), 100u);
   for (const auto& entry : lines) {
     if (entry.empty()) continue;

@@ -4,14 +4,14 @@
 #include <set>
 
 #include "common/runtime_failure.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 #include "support_files/country_file.hpp"
 
 namespace benchlog {
 namespace {
 
-std::string Fixture() { return test::FixtureSupport() + "country_small.dat"; }
-std::string Committed() { return test::CommittedSupport() + kCountryFileName; }
+std::string Fixture() { return testing::TestData("support/") + "country_small.dat"; }
+std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
 
 TEST(CountryFile, StateListTakesEveryStateLineWhateverItsCountry) {
   EXPECT_EQ(CountryStateList(Fixture()),
@@ -59,7 +59,7 @@ TEST(CountryFile, FipsLookUpWalksFromTheStateLine) {
 }
 
 TEST(CountryFile, MissingFileIsAFileNotFoundFailure) {
-  const std::string missing = test::FixtureSupport() + "no_such_country.dat";
+  const std::string missing = testing::TestData("support/") + "no_such_country.dat";
   for (auto call : {+[](const std::string& p) { CountryStateList(p); },
                     +[](const std::string& p) { CountryCountyList(p, "NC"); },
                     +[](const std::string& p) { FipsIndex{p}; }}) {

@@ -1,26 +1,22 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <unistd.h>
 
 #include "common/files.hpp"
-#include "support_paths.hpp"
+#include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog {
 namespace {
 
-namespace fs = std::filesystem;
-
 // The generators of tools/ run again into a scratch folder must write the committed files byte
 // for byte: the files in support/ are what the tools make from the source tables.
 TEST(SupportGenerators, AreDeterministic) {
-  ASSERT_EQ(std::system("python3 --version > /dev/null 2>&1"), 0) << "scripts/setup installs python3";
-  const std::string data = test::SourceTables();
+  ASSERT_EQ(std::system("python3 --version > /dev/null 2>&1"), 0) << "python3 is not installed";
+  const std::string data = testing::SourceTables();
   ASSERT_TRUE(FolderExists(data)) << "no source tables at " << data;
-  const fs::path out = fs::temp_directory_path() / ("benchlog_support_" + std::to_string(::getpid()));
-  fs::remove_all(out);
-  const std::string tools = std::string(BENCHLOG_SOURCE_DIR) + "/tools/";
+  const testing::TempFolder out;
+  const std::string tools = BENCHLOG_SOURCE_DIR "/tools/";
   struct Case { const char* tool; const char* file; };
   const Case cases[] = {
       {"make_country.py", "Country.dat"},
@@ -33,14 +29,13 @@ TEST(SupportGenerators, AreDeterministic) {
       {"make_sample_dataset.py", "samples/sample.dat"},
   };
   for (const auto& c : cases) {
-    const std::string command = "python3 -B '" + tools + c.tool + "' --data '" + data + "' --out '" + out.string() +
+    const std::string command = "python3 -B '" + tools + c.tool + "' --data '" + data + "' --out '" + out.Path() +
                                 "' > /dev/null";
     ASSERT_EQ(std::system(command.c_str()), 0) << command;
-    const std::string made = ReadWholeFile((out / c.file).string());
-    const std::string committed = ReadWholeFile(test::CommittedSupport() + c.file);
+    const std::string made = ReadWholeFile(out.File(c.file));
+    const std::string committed = ReadWholeFile(testing::SourceSupport() + c.file);
     EXPECT_TRUE(made == committed) << c.file << " differs from what " << c.tool << " makes";
   }
-  fs::remove_all(out);
 }
 
 }  // namespace

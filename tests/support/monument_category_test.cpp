@@ -7,7 +7,7 @@
 #include "common/text.hpp"
 #include "support_files/monument_category.hpp"
 #include "sample_lines.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog {
 namespace {
@@ -24,13 +24,13 @@ TEST(MonumentCategory, FirstLineWhoseTextFromColumnThreeEqualsTheCode) {
       {"db", ""},   // exact comparison
       {"XX", ""},
   };
-  const CategoryTable table = ReadCategoryTable(test::FixtureSupport() + kMonumentCategoryFileName);
+  const CategoryTable table = ReadCategoryTable(testing::TestData("support/") + kMonumentCategoryFileName);
   for (const auto& c : cases) EXPECT_EQ(MonumentCategory(table, c.code), c.category) << "code '" << c.code << "'";
 }
 
 TEST(MonumentCategory, MissingFileIsAFileNotFoundFailure) {
   try {
-    ReadCategoryTable(test::FixtureSupport() + "nowhere/" + kMonumentCategoryFileName);
+    ReadCategoryTable(testing::TestData("support/") + "nowhere/" + kMonumentCategoryFileName);
     ADD_FAILURE() << "no failure";
   } catch (const RuntimeFailure& failure) {
     EXPECT_EQ(failure.number, kFileNotFound);
@@ -38,7 +38,7 @@ TEST(MonumentCategory, MissingFileIsAFileNotFoundFailure) {
 }
 
 TEST(CommittedMonumentCategory, LandmarksAreTheTwoDigitCodesOtherThan71) {
-  const CategoryTable table = ReadCategoryTable(test::CommittedSupport() + kMonumentCategoryFileName);
+  const CategoryTable table = ReadCategoryTable(testing::SourceSupport() + kMonumentCategoryFileName);
   struct Case { const char* code; const char* category; };
   const Case cases[] = {
       // The marker codes seen on real sheets (marker_codes.csv).
@@ -56,7 +56,7 @@ TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
     }
   }
   ASSERT_GE(codes.size(), 12u);
-  const CategoryTable table = ReadCategoryTable(test::CommittedSupport() + kMonumentCategoryFileName);
+  const CategoryTable table = ReadCategoryTable(testing::SourceSupport() + kMonumentCategoryFileName);
   for (const auto& code : codes) {
     const std::string category = MonumentCategory(table, code);
     EXPECT_EQ(category.size(), 1u) << "marker code " << code;

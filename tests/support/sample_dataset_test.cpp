@@ -6,14 +6,14 @@
 #include "common/files.hpp"
 #include "common/text.hpp"
 #include "sample_lines.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 #include "support_files/country_file.hpp"
 
 namespace benchlog {
 namespace {
 
 TEST(SampleDataset, DescriptionsOneAfterAnotherInCrLfLines) {
-  const std::string text = ReadWholeFile(test::SampleDataset());
+  const std::string text = ReadWholeFile(testing::SampleDataset());
   ASSERT_FALSE(text.empty());
   EXPECT_EQ(text.rfind("\r\n"), text.size() - 2);
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -89,7 +89,7 @@ TEST(SampleDataset, CoversTheKindsOfMarksAndLines) {
 }
 
 TEST(SampleDataset, CountiesAreInTheCountryFileAndPhotosLieBeside) {
-  const FipsIndex index(test::CommittedSupport() + kCountryFileName);
+  const FipsIndex index(testing::SourceSupport() + kCountryFileName);
   int photos = 0, sketches = 0;
   for (const auto& d : test::ReadSampleDataset()) {
     for (const auto& line : d.lines) {
@@ -97,7 +97,7 @@ TEST(SampleDataset, CountiesAreInTheCountryFileAndPhotosLieBeside) {
       const std::string fips = index.LookUp(Mid(line, 25, 2), Trim(Mid(line, 28, 20)));
       EXPECT_EQ(fips.size(), 3u) << line;
     }
-    const std::string folder = test::CommittedSupport() + "samples/";
+    const std::string folder = testing::SourceSupport() + "samples/";
     for (const char* suffix : {"ph.jpg", "sk.jpg"}) {
       const std::string path = folder + d.pid + suffix;
       if (!FileExists(path)) continue;

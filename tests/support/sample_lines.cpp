@@ -2,7 +2,7 @@
 
 #include "common/line_input.hpp"
 #include "common/text.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog::test {
 
@@ -16,7 +16,7 @@ std::vector<std::string> ReadLines(const std::string& path) {
 
 std::vector<SampleDescription> ReadSampleDataset() {
   std::vector<SampleDescription> descriptions;
-  LineReader reader(SampleDataset());
+  LineReader reader(testing::SampleDataset());
   std::string line;
   while (reader.ReadLine(line)) {
     if (Left(line, 7) == "1      ") {

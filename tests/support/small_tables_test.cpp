@@ -5,12 +5,12 @@
 #include "common/number_text.hpp"
 #include "common/text.hpp"
 #include "sample_lines.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog {
 namespace {
 
-std::vector<std::string> Lines(const std::string& name) { return test::ReadLines(test::CommittedSupport() + name); }
+std::vector<std::string> Lines(const std::string& name) { return test::ReadLines(testing::SourceSupport() + name); }
 
 TEST(SmallTables, EllipsoidsHoldTheirAxisAndFlattening) {
   struct Case { const char* name; double a, inverseFlattening; };

@@ -4,7 +4,7 @@
 
 #include "support_files/towns_file.hpp"
 #include "sample_lines.hpp"
-#include "support_paths.hpp"
+#include "fakes/test_paths.hpp"
 
 namespace benchlog {
 namespace {
@@ -50,13 +50,13 @@ TEST(TownLine, ExtentIsStrict) {
 
 TEST(TownLine, ReadsTheFixtureFile) {
   std::vector<std::string> names;
-  for (const auto& line : test::ReadLines(test::FixtureSupport() + kTownsFileName)) {
+  for (const auto& line : test::ReadLines(testing::TestData("support/") + kTownsFileName)) {
     names.push_back(ReadTownLine(line).name);
   }
   EXPECT_EQ(names, (std::vector<std::string>{"ATTU STATION", "CHAPEL HILL", "HILLSBOROUGH"}));
 }
 
-std::vector<std::string> CommittedTowns() { return test::ReadLines(test::CommittedSupport() + kTownsFileName); }
+std::vector<std::string> CommittedTowns() { return test::ReadLines(testing::SourceSupport() + kTownsFileName); }
 
 TEST(CommittedTowns, SortedAndNoTwoAlikeInTheirFirst32Columns) {
   const auto lines = CommittedTowns();

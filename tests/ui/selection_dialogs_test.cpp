@@ -39,15 +39,7 @@ class SelectionDialogsTest : public QObject {
     QCOMPARE(model.Tag, std::string("Okay"));
     QCOMPARE(model.selected, (std::vector<bool>{false, true, false}));
     QVERIFY(!window.isVisible());
-  }
-
-  void selectPointsCancelAndEscape() {
-    FrmSelectPoints model;
-    model.AddItem("PINE AB0001");
-    qt::FrmSelectPointsWindow window(model, nullptr);
-    window.LoadFromModel();
     window.show();
-    model.Tag = "Okay";
     QTest::mouseClick(window.findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
     QCOMPARE(model.Tag, std::string("Canceled"));
     window.show();

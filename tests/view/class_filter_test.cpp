@@ -2,9 +2,12 @@
 
 #include <map>
 
-#include "view/class_filter.hpp"
+#include "common/files.hpp"
+#include "common/text.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/frm_select_points.hpp"
+#include "view/class_filter.hpp"
 
 namespace benchlog {
 namespace {
@@ -21,50 +24,28 @@ std::string Record(const std::map<int, std::string>& columns) {
 
 std::string Sentinel() { return std::string(134, ' ') + "000012345 |"; }
 
+const std::map<std::string, int> kClasses = {
+    {"AllHorizontal", kAllHorizontal}, {"HorizontalFirstAndBetter", kHorizontalFirstAndBetter},
+    {"AllVertical", kAllVertical},     {"VerticalFirstOnly", kVerticalFirstOnly},
+    {"BoundaryMonuments", kBoundaryMonuments}, {"Landmarks", kLandmarks}, {"Cors", kCors},
+    {"BaseNetwork", kBaseNetwork},     {"Airport", kAirport}, {"Tidal", kTidal}, {"GpsSuitable", kGpsSuitable},
+    {"HeightMod", kHeightMod},         {"RecoveredNotPositioned", kRecoveredNotPositioned},
+    {"RecoveredNotPhotographed", kRecoveredNotPhotographed}};
+
+// The cases of tests/data/view/class_filter.txt.
 TEST(ClassFilter, EachClassTestsItsColumn) {
-  struct Case {
-    const char* what;
-    int code;
+  int cases = 0;
+  for (const std::string& line : Split(ReadWholeFile(testing::TestData("view/class_filter.txt")), "\n")) {
+    if (line.empty() || line[0] == '#') continue;
+    const std::vector<std::string> cells = Split(line, "|");
+    ASSERT_EQ(cells.size(), 4u) << line;
     std::map<int, std::string> columns;
-    bool listed;
-  };
-  const Case cases[] = {
-      {"horizontal order", kAllHorizontal, {{8, "3"}}, true},
-      {"no horizontal order", kAllHorizontal, {}, false},
-      {"first order", kHorizontalFirstAndBetter, {{8, "1"}}, true},
-      {"network mark", kHorizontalFirstAndBetter, {{8, "0"}}, true},
-      {"order A", kHorizontalFirstAndBetter, {{8, "A"}}, true},
-      {"order B", kHorizontalFirstAndBetter, {{8, "B"}}, true},
-      {"special is not first", kHorizontalFirstAndBetter, {{8, "S"}}, false},
-      {"second is not first", kHorizontalFirstAndBetter, {{8, "2"}}, false},
-      {"vertical order", kAllVertical, {{10, "P"}}, true},
-      {"first order vertical", kVerticalFirstOnly, {{10, "1"}}, true},
-      {"second order vertical", kVerticalFirstOnly, {{10, "2"}}, false},
-      {"boundary in the name", kBoundaryMonuments, {{43, "STATE BOUNDARY 12"}}, true},
-      {"bdry mon in the name", kBoundaryMonuments, {{43, "BDRY MON 7"}}, true},
-      {"boundary in the county", kBoundaryMonuments, {{74, "BOUNDARY"}}, true},
-      {"boundary only before col 43", kBoundaryMonuments, {{12, "BOUNDARY"}}, false},
-      {"landmark", kLandmarks, {{110, "L"}}, true},
-      {"stability C", kLandmarks, {{110, "C"}}, false},
-      {"CORS", kCors, {{104, "C"}}, true},
-      {"FBN", kBaseNetwork, {{100, "F"}}, true},
-      {"CBN", kBaseNetwork, {{100, "C"}}, true},
-      {"SACS", kAirport, {{102, "S"}}, true},
-      {"tidal", kTidal, {{98, "T"}}, true},
-      {"satellite suitable", kGpsSuitable, {{106, "Y"}}, true},
-      {"satellite not suitable", kGpsSuitable, {{106, "N"}}, false},
-      {"height mod", kHeightMod, {{108, "H"}}, true},
-      {"good, position without decimals", kRecoveredNotPositioned, {{12, "39 00 12      "}, {126, "G"}}, true},
-      {"poor, position without decimals", kRecoveredNotPositioned, {{12, "39 00 12      "}, {126, "P"}}, true},
-      {"see description counts as found", kRecoveredNotPositioned, {{12, "39 00 12      "}, {126, "S"}}, true},
-      {"good, decimals", kRecoveredNotPositioned, {{12, "39 00 12.12345"}, {126, "G"}}, false},
-      {"not recovered", kRecoveredNotPositioned, {{12, "39 00 12      "}, {126, "N"}}, false},
-      {"other condition", kRecoveredNotPositioned, {{12, "39 00 12      "}, {126, "O"}}, false},
-      {"good, no photo", kRecoveredNotPhotographed, {{126, "G"}}, true},
-      {"good, photo", kRecoveredNotPhotographed, {{112, "Y"}, {126, "G"}}, false},
-      {"destroyed, no photo", kRecoveredNotPhotographed, {{126, "D"}}, false},
-  };
-  for (const auto& c : cases) EXPECT_EQ(PassesClassTest(Record(c.columns), c.code), c.listed) << c.what;
+    for (const std::string& piece : Split(cells[1], ";"))
+      if (!piece.empty()) columns[std::stoi(piece)] = piece.substr(piece.find('=') + 1);
+    EXPECT_EQ(PassesClassTest(Record(columns), kClasses.at(cells[0])), cells[2] == "1") << cells[3];
+    ++cases;
+  }
+  EXPECT_EQ(cases, 34);
 }
 
 TEST(ClassFilter, EmptyElementPassesEveryNotBlankTest) {
@@ -77,10 +58,7 @@ TEST(ClassFilter, EmptyElementPassesEveryNotBlankTest) {
 }
 
 TEST(ClassFilter, SentinelPassesNoColumnTest) {
-  for (int code : {kAllHorizontal, kHorizontalFirstAndBetter, kAllVertical, kVerticalFirstOnly, kLandmarks, kCors,
-                   kBaseNetwork, kAirport, kTidal, kGpsSuitable, kHeightMod, kRecoveredNotPositioned,
-                   kRecoveredNotPhotographed, kBoundaryMonuments})
-    EXPECT_FALSE(PassesClassTest(Sentinel(), code)) << code;
+  for (const auto& [name, code] : kClasses) EXPECT_FALSE(PassesClassTest(Sentinel(), code)) << name;
 }
 
 TEST(FrmSelectPoints, SelectAllLeavesTheFirstItemAsItWas) {
@@ -105,20 +83,12 @@ TEST(FrmSelectPoints, ItemOfARecordEndsInItsPid) {
   EXPECT_EQ(FrmSelectPoints::PidOfItem("  "), "");
 }
 
-TEST(FrmSelectPoints, GeometryDefaultsAndRoundTrip) {
+TEST(FrmSelectPoints, GeometryDefaults) {
   testing::MemorySettings settings;
   FrmSelectPoints list;
   list.Load(settings);
   EXPECT_EQ(list.placement.height, 7605);
   EXPECT_EQ(list.placement.width, 9720);
-  list.placement = {kNormal, 100, 200, 5000, 6000};
-  list.Unload(settings);
-  FrmSelectPoints again;
-  again.Load(settings);
-  EXPECT_EQ(again.placement.top, 100);
-  EXPECT_EQ(again.placement.left, 200);
-  EXPECT_EQ(again.placement.height, 5000);
-  EXPECT_EQ(again.placement.width, 6000);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "dataset/build_mark_index.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/frm_select_points.hpp"
 #include "session/frm_view.hpp"
 
@@ -19,7 +20,7 @@ struct ViewByClassTest : ::testing::Test {
   TempFolder folder;
   FakePlatform fake{folder.Path()};
   testing::TestSession session;
-  std::string dat = ReadWholeFile(BENCHLOG_TEST_DATA "/dataset/layouts.dat");
+  std::string dat = ReadWholeFile(testing::TestData("dataset/layouts.dat"));
   CommandTable table = BuildCommandTable();
 
   ViewByClassTest() {
@@ -27,7 +28,7 @@ struct ViewByClassTest : ::testing::Test {
     session.dataset.DatFilePath = folder.Path() + "/";
     session.dataset.IndexFile = folder.File("layouts.ndx");
   }
-  void LoadIndex() { LoadIndexFile(BENCHLOG_TEST_DATA "/dataset/layouts.ndx", session.dataset.markIndex); }
+  void LoadIndex() { LoadIndexFile(testing::TestData("dataset/layouts.ndx"), session.dataset.markIndex); }
 
   // Runs a class command; the user sees the list, picks the items at `picks` and presses Okay.
   std::vector<std::string> Pick(const std::string& command, std::vector<std::size_t> picks) {
