@@ -73,30 +73,34 @@ TEST_F(ExportCommand, AsksForTheOutputNameBesideTheLastDataset) {
 // The names themselves are checked by the ExportNames tests; here the command uses them.
 TEST_F(ExportCommand, NamesTheOutputsFromTheChosenNameWithoutItsExtension) {
   RunExport(Out("two.dots.txt"));
-  const std::string stem = Out("two.dots");
-  EXPECT_TRUE(FileExists(stem + ".hcl"));
-  EXPECT_TRUE(FileExists(stem + ".vcl"));
-  EXPECT_EQ(session.outputs.HclFile, stem + ".hcl");
-  EXPECT_EQ(session.outputs.VclFile, stem + ".vcl");
-  EXPECT_EQ(session.outputs.SA6File, stem + "_sa6.txt");
-  EXPECT_EQ(session.outputs.ErrFile, stem + ".err");
-  EXPECT_FALSE(FileExists(stem + ".err")) << "no error listing is written";
+  EXPECT_TRUE(FileExists(Out("two.dots.hcl")));
+  EXPECT_EQ(session.outputs.HclFile, Out("two.dots.hcl"));
+  EXPECT_EQ(session.outputs.VclFile, Out("two.dots.vcl"));
+  EXPECT_EQ(session.outputs.SA6File, Out("two.dots_sa6.txt"));
+  EXPECT_EQ(session.outputs.ErrFile, Out("two.dots.err"));
+  EXPECT_FALSE(FileExists(Out("two.dots.err"))) << "no error listing is written";
 }
 
-// The listings are opened in order; a read-only ".vcl" stops the export before any listing is
-// written, and the old ".hcl" stays as it was.
-TEST_F(ExportCommand, AReadOnlyVclLeavesTheOldHclAsItWas) {
-  folder.Write("export.hcl", "old horizontal listing\r\n");
-  MakeReadOnly(folder.Write("export.vcl", "old vertical listing\r\n"));
-  const auto before = FolderSnapshot(folder.Path());
-  RunExport(Out("export.txt"));
-
-  ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, Out("export.vcl") + " exists and is read-only!");
-  EXPECT_EQ(fake.ui.messages[0].title, "Export Files");
-  EXPECT_EQ(FolderSnapshot(folder.Path()), before);  // no work file either
-  EXPECT_FALSE(fake.progress.Visible());
-  EXPECT_TRUE(session.menu["mnuViewHcl"].enabled);
+// Both listings are opened before either is written: a read-only ".hcl" or ".vcl" stops the
+// export with both old listings as they were, no work file, and the menu as it was.
+TEST_F(ExportCommand, AReadOnlyListingStopsTheExportBeforeAnyIsWritten) {
+  for (const std::string readOnly : {"a.vcl", "b.hcl"}) {
+    const std::string stem = readOnly.substr(0, 1);
+    folder.Write(stem + ".hcl", "old horizontal listing\r\n");
+    folder.Write(stem + ".vcl", "old vertical listing\r\n");
+    MakeReadOnly(Out(readOnly));
+    session.menu["mnuViewHcl"].enabled = true;
+    session.menu["mnuViewVcl"].enabled = false;
+    fake.ui.messages.clear();
+    const auto before = FolderSnapshot(folder.Path());
+    RunExport(Out(stem + ".txt"));
+    ASSERT_EQ(fake.ui.messages.size(), 1u);
+    EXPECT_EQ(fake.ui.messages[0].text, Out(readOnly) + " exists and is read-only!");
+    EXPECT_EQ(fake.ui.messages[0].title, "Export Files");
+    EXPECT_EQ(FolderSnapshot(folder.Path()), before);
+    EXPECT_FALSE(fake.progress.Visible());
+    EXPECT_TRUE(session.menu["mnuViewHcl"].enabled && !session.menu["mnuViewVcl"].enabled);
+  }
 }
 
 // A listing that cannot be written whole (a full disk) leaves both old listings as they were, and
@@ -114,17 +118,6 @@ TEST_F(ExportCommand, AFailedWriteLeavesTheOldListings) {
   EXPECT_EQ(fake.ui.messages[0].text, "Path/File access error: could not write " + Out("export.hcl") + " (File too large)");
   EXPECT_EQ(fake.ui.messages[0].title, "Export Files");
   EXPECT_FALSE(fake.progress.Visible());
-}
-
-TEST_F(ExportCommand, AReadOnlyHclStopsBeforeTheVclIsTouched) {
-  MakeReadOnly(folder.Write("export.hcl", "old horizontal listing\r\n"));
-  folder.Write("export.vcl", "old vertical listing\r\n");
-  session.menu["mnuViewVcl"].enabled = false;
-  RunExport(Out("export.txt"));
-  EXPECT_EQ(Messages(), std::vector<std::string>{Out("export.hcl") + " exists and is read-only!"});
-  EXPECT_EQ(ReadWholeFile(Out("export.hcl")), "old horizontal listing\r\n");
-  EXPECT_EQ(ReadWholeFile(Out("export.vcl")), "old vertical listing\r\n");
-  EXPECT_FALSE(session.menu["mnuViewVcl"].enabled);
 }
 
 TEST_F(ExportCommand, WithNoBoxTickedRunsThroughEveryDescriptionAndWritesNothing) {
@@ -175,10 +168,7 @@ TEST_F(ExportCommand, ListsEveryIndexElementForTheChoiceOfMarks) {
   ASSERT_EQ(list.lstPoints.size(), session.dataset.markIndex.Size());
   EXPECT_EQ(list.lstPoints[0], "HILLSBORO                      ORANGE                  FY3210");
   EXPECT_EQ(fake.ui.hidden.back(), &list);
-  // A mark that is no vertical control: the ".vcl" has 0 bytes and no heading.
   EXPECT_TRUE(Completed());
-  EXPECT_EQ(FileLength(Out("export.vcl")), 0u);
-  EXPECT_EQ(SplitCrLf(ReadWholeFile(Out("export.hcl"))).size(), 4u);  // heading, line, empty line, end
 }
 
 TEST_F(ExportCommand, EndsWhenNoMarkIsChosen) {
@@ -223,15 +213,6 @@ TEST_F(ExportCommand, ACoordinateTooWideForItsColumnEndsTheExport) {
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(FolderSnapshot(folder.Path()), before);
   EXPECT_FALSE(fake.progress.Visible());
-}
-
-// A Description without a position is projected from latitude and longitude 0: some 10,000 km
-// east of the zone, eight digits that the whole-number pattern cannot hold in 12 columns.
-TEST_F(ExportCommand, ADescriptionWithoutPositionIsProjectedFromZero) {
-  OpenDataset("nopos.dat");
-  RunExport(Out("export.txt"));
-  EXPECT_FALSE(Completed());
-  EXPECT_FALSE(FileExists(Out("export.vcl")));
 }
 
 // With a zone whose projection kind is none of "LC", "TM", "OM" (or a zone not in the table)

@@ -123,50 +123,15 @@ TEST(DescriptionStream, CountsAndReadsAgainFromTheStart) {
   EXPECT_THROW(TextBlocks(TextFile{folder.File("none.dat")}), RuntimeFailure);
 }
 
-// Lines end only at CR LF: a lone CR or LF stays inside its line, and a final CR LF leaves an
-// empty last line.
-TEST(DescriptionStream, LinesEndAtCrLf) {
-  const std::string text = "a\nb\r\r\nc\r\n";
-  std::vector<std::string_view> lines;
-  std::size_t offset = 0;
-  while (offset != std::string_view::npos) lines.push_back(LineAt(text, offset, offset));
-  EXPECT_EQ(lines, (std::vector<std::string_view>{"a\nb\r", "c", ""}));
-  std::size_t next = 0;
-  EXPECT_EQ(LineAt("", 0, next), "");
-  EXPECT_EQ(next, std::string_view::npos);
-}
-
-// The parser reads a Description's run of lines of its PID and the one line after it.
-TEST(DescriptionStream, DescriptionLinesAreTheRunOfItsPid) {
-  const std::string text =
-      "1      h\r\n AB1234 one\r\n AB1234 two\r\n CD5678 other\r\n AB1234 later\r\n1      h\r\n AB1234";
-  std::vector<std::string_view> lines{"stale"};
-  EXPECT_TRUE(DescriptionLines(text, 10, "AB1234", lines));
-  EXPECT_EQ(lines, (std::vector<std::string_view>{" AB1234 one", " AB1234 two", " CD5678 other"}));
-  EXPECT_FALSE(DescriptionLines(text, text.size() - 7, "AB1234", lines));
-  EXPECT_EQ(lines, (std::vector<std::string_view>{" AB1234"}));
-}
-
 TEST(ExportNames, FromTheChosenNameWithoutItsExtension) {
-  struct Case {
-    const char* chosen;
-    const char* stem;
-  };
-  for (const Case c : {Case{"/out/marks", "/out/marks"}, Case{"/out/marks.txt", "/out/marks"},
-                       Case{"/out/marks.2024.txt", "/out/marks.2024"}, Case{"/out/v1.2/marks", "/out/v1.2/marks"},
-                       Case{"marks.", "marks"}}) {
-    const ExportNames names = ExportNamesOf(c.chosen);
-    const std::string stem = c.stem;
-    EXPECT_EQ(names.stem, stem);
-    EXPECT_EQ(names.hcl, stem + ".hcl");
-    EXPECT_EQ(names.vcl, stem + ".vcl");
-    EXPECT_EQ(names.mdb, stem + ".mdb");
-    EXPECT_EQ(names.sa6, stem + "_sa6.txt");
-    EXPECT_EQ(names.msf, stem + ".msf");
-    EXPECT_EQ(names.err, stem + ".err");
-    EXPECT_EQ(names.gwp, stem + "_gwp.txt");
-    EXPECT_EQ(names.des, stem + ".des");
-  }
+  const ExportNames names = ExportNamesOf("/out/marks.txt");
+  const std::pair<std::string, std::string> outputs[] = {
+      {names.stem, ""},     {names.hcl, ".hcl"}, {names.vcl, ".vcl"},     {names.mdb, ".mdb"}, {names.sa6, "_sa6.txt"},
+      {names.msf, ".msf"}, {names.err, ".err"}, {names.gwp, "_gwp.txt"}, {names.des, ".des"}};
+  for (const auto& [name, suffix] : outputs) EXPECT_EQ(name, "/out/marks" + suffix);
+  for (const auto& [chosen, stem] : {std::pair{"/out/marks", "/out/marks"}, {"/out/marks.2024.txt", "/out/marks.2024"},
+                                     {"/out/v1.2/marks", "/out/v1.2/marks"}, {"marks.", "marks"}})
+    EXPECT_EQ(ExportNamesOf(chosen).stem, stem) << chosen;
 }
 
 }  // namespace

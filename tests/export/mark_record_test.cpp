@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common/fit.hpp"
+#include "export/export_test_support.hpp"
 #include "export/parser/mark_record.hpp"
 
 namespace benchlog {
@@ -71,23 +72,17 @@ TEST(MarkRecord, ClearBlanksEveryField) {
   VisitFields(record, [](std::string_view name, const auto& field) { EXPECT_TRUE(field.IsBlank()) << name; });
 }
 
+// The cases of tests/data/export/control_flags.txt.
 TEST(MarkRecord, HorizontalAndVerticalFlags) {
-  struct Case {
-    std::string horizOrder, horizType, vertOrder;
-    bool horizontal, vertical;
-  };
-  const Case cases[] = {
-      {"", "", "", false, false},   {"1", "", "", true, false},    {"A", "G", "2", true, true},
-      {"0", "F", "1", true, true},  {"4", "", "", false, false},   {"2", "X", "", false, false},
-      {"B", "W", "4", false, true}, {"3", "E", "?", true, true},   {" ", "I", " ", false, false},
-  };
-  for (const auto& c : cases) {
+  const auto rows = testing::ExportTableRows("control_flags.txt", 5);
+  EXPECT_EQ(rows.size(), 9u);
+  for (const auto& c : rows) {
     MarkRecord record;
-    record.HorizOrder = c.horizOrder;
-    record.HorizType = c.horizType;
-    record.VertOrder = c.vertOrder;
-    EXPECT_EQ(HasHorizontalControl(record), c.horizontal) << c.horizOrder << "/" << c.horizType;
-    EXPECT_EQ(HasVerticalControl(record), c.vertical) << c.vertOrder;
+    record.HorizOrder = c[0];
+    record.HorizType = c[1];
+    record.VertOrder = c[2];
+    EXPECT_EQ(HasHorizontalControl(record), c[3] == "1") << c[0] << "/" << c[1];
+    EXPECT_EQ(HasVerticalControl(record), c[4] == "1") << c[2];
   }
 }
 

@@ -42,61 +42,36 @@ class MarkValuesTest : public ::testing::Test {
   }
 };
 
-struct SheetCase {
-  const char* pid;
-  const char* north;  // ";SPC NC" metres
-  const char* east;
-  const char* scale;
-  const char* convergence;
-  const char* spcCgf;  // "!SPC NC"
-  const char* utmNorth;
-  const char* utmEast;
-  const char* utmScale;
-  const char* utmConvergence;
-  const char* utmCgf;
-};
-
-// The data sheets print the same quantities: SPC north, east, scale and convergence, the UTM zone
-// 17 values and the combined factors. The sheets' elevation factors take a mean radius a little
-// different from the Euler radius in the azimuth of 45 degrees, which moves the eighth decimal;
-// the factor is therefore checked to the sheets within 5e-8. That still tells the heights apart:
+// The rows of tests/data/export/sheet_values.txt. The sheets' elevation factors take a mean
+// radius a little different from the Euler radius in the azimuth of 45 degrees, which moves the
+// eighth decimal; the factor is therefore checked to the sheets within 5e-8. That still tells the heights apart:
 // the export must take the ellipsoid height, or, when the sheet has none (FY3210), the
 // orthometric plus the geoid height, and 30 m of height move the factor by some 5e-6.
 TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
-  const SheetCase cases[] = {
-      {"DH7190", "258,933.619", "602,366.364", "0.99997800", "-0 02 46.9", "0.99995594", "3,994,980.736",
-       "672,841.562", "0.99996811", "  1 07 51.3", "0.99994604"},
-      {"EZ1203", "236,577.464", "605,145.595", "0.99993309", "-0 01 42.5", "0.99991455", "3,972,685.799",
-       "676,078.601", "0.99998204", "  1 08 37.0", "0.99996350"},
-      {"DL8724", "239,543.437", "605,403.346", "0.99993834", "-0 01 36.6", "0.99991675", "3,975,656.563",
-       "676,275.617", "0.99998290", "  1 08 45.7", "0.99996131"},
-      {"FY3210", "256,467.249", "598,626.165", "0.99997243", "-0 04 13.1", "0.99993613", "3,992,438.114",
-       "669,152.857", "0.99995256", "  1 06 21.1", "0.99991627"},
-      {"DH7198", "273,230.900", "617,561.728", "1.00001324", "0 03 03.9", "0.99999233", "4,009,588.032",
-       "687,739.317", "1.00003429", "  1 14 03.3", "1.00001338"},
-  };
+  const auto rows = ExportTableRows("sheet_values.txt", 11);
+  EXPECT_EQ(rows.size(), 5u);
   ExportSetup setup = Grs80Setup();
   setup.zoneLine = ZoneLine("NC   ");
   setup.utmAsked = true;
   setup.utmZoneText = "17";
-  for (const SheetCase& c : cases) {
-    const MarkRecord record = Mark(c.pid);
+  for (const auto& c : rows) {
+    const MarkRecord record = Mark(c[0]);
     MarkValues values;
     values.horizontal = HasHorizontalControl(record);
     ComputePlaneValues(setup, lambert, record, values);
     ComputeUtmValues(setup, record, values);
-    EXPECT_EQ(Format(values.SpcNorth, "#,###,##0.000"), c.north) << c.pid;
-    EXPECT_EQ(Format(values.SpcEast, "#,###,##0.000"), c.east) << c.pid;
-    EXPECT_EQ(Format(values.SpcScale, "0.00000000"), c.scale) << c.pid;
     std::string convergence;
     RadToDms(values.SpcConvergence, convergence, kDmsBlank, 1, false, false);
-    EXPECT_EQ(convergence, c.convergence) << c.pid;
-    EXPECT_NEAR(Val(values.SpcCgfText), Val(c.spcCgf), 5e-8) << c.pid;
-    EXPECT_EQ(values.UtmNorthText, c.utmNorth) << c.pid;
-    EXPECT_EQ(values.UtmEastText, c.utmEast) << c.pid;
-    EXPECT_EQ(values.UtmScaleText, c.utmScale) << c.pid;
-    EXPECT_EQ(values.UtmConvText, c.utmConvergence) << c.pid;
-    EXPECT_NEAR(Val(values.UtmCgfText), Val(c.utmCgf), 5e-8) << c.pid;
+    EXPECT_EQ(Format(values.SpcNorth, "#,###,##0.000"), c[1]) << c[0];
+    EXPECT_EQ(Format(values.SpcEast, "#,###,##0.000"), c[2]) << c[0];
+    EXPECT_EQ(Format(values.SpcScale, "0.00000000"), c[3]) << c[0];
+    EXPECT_EQ(convergence, c[4]) << c[0];
+    EXPECT_NEAR(Val(values.SpcCgfText), Val(c[5]), 5e-8) << c[0];
+    EXPECT_EQ(values.UtmNorthText, c[6]) << c[0];
+    EXPECT_EQ(values.UtmEastText, c[7]) << c[0];
+    EXPECT_EQ(values.UtmScaleText, c[8]) << c[0];
+    EXPECT_EQ(values.UtmConvText, c[9]) << c[0];
+    EXPECT_NEAR(Val(values.UtmCgfText), Val(c[10]), 5e-8) << c[0];
   }
 }
 
@@ -132,45 +107,31 @@ TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
 }
 
 // With no projection (a zone of no known kind) the north and east stand as the mark before left
-// them, so each pattern can be tried on a chosen value.
+// them, so each pattern of tests/data/export/coordinate_texts.txt can be tried on a chosen value.
 TEST_F(MarkValuesTest, CoordinateTextPatterns) {
-  struct Case {
-    const char* posSource;
-    double factor, north, east;
-    const char *northText, *eastText;  // nullptr: too wide, the export ends
-  };
-  const Case cases[] = {
-      {"A", 1, 256467.2494, 598626.1651, "256467.249  ", "598626.165  "},
-      {"A", 3937.0 / 1200.0, 256467.2494, 598626.1651, "841426.301  ", "1963992.677 "},
-      {"A", 1, -1234.5, 0, "-1234.500   ", "0.000       "},
-      {"A", 1, 1234567.8905, 12345678.9, "1234567.891 ", "12345678.900"},
-      {"A", 1, 13706447.1, 1, nullptr, nullptr},  // "13706447.100 " has 13 characters
-      {"S", 1, 256467.5, 598626.4, "256468      ", "598626      "},
-      {"O", 1, 13706447.4, 1234567.5, "13706447    ", "1234568     "},
-      {"S", 1, 1, 12345678, nullptr, nullptr},  // "12345678     " has 13 characters
-      {"S", 1, 123456789, 1, nullptr, nullptr},
-  };
-  for (const Case& c : cases) {
+  const auto rows = ExportTableRows("coordinate_texts.txt", 7);
+  EXPECT_EQ(rows.size(), 9u);
+  for (const auto& c : rows) {
     MarkRecord record;
-    record.PosSource = c.posSource;
+    record.PosSource = c[0];
     MarkValues values;
-    values.SpcNorth = c.north;  // metres
-    values.SpcEast = c.east;
+    values.SpcNorth = std::stod(c[2]);
+    values.SpcEast = std::stod(c[3]);
     ExportSetup setup = Grs80Setup();
     setup.zoneLine = "";
-    setup.coordinateFactor = c.factor;
-    if (!c.northText) {
+    setup.coordinateFactor = c[1] == "feet" ? 3937.0 / 1200.0 : std::stod(c[1]);
+    if (c[4] == "-") {
       try {
         ComputePlaneValues(setup, lambert, record, values);
-        ADD_FAILURE() << c.north << " " << c.east << " fit";
+        ADD_FAILURE() << c[2] << " " << c[3] << " fit";
       } catch (const RuntimeFailure& failure) {
         EXPECT_EQ(failure.number, kInvalidProcedureCall);
       }
       continue;
     }
     ComputePlaneValues(setup, lambert, record, values);
-    EXPECT_EQ(values.NorthText, c.northText) << c.north;
-    EXPECT_EQ(values.EastText, c.eastText) << c.east;
+    EXPECT_EQ(values.NorthText, c[4]) << c[2];
+    EXPECT_EQ(values.EastText, c[5]) << c[3];
   }
 }
 

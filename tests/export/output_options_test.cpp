@@ -1,4 +1,5 @@
-// frmOutputOptions and frmCDT as models: their settings, option groups, frames and buttons.
+// frmOutputOptions and frmCDT as models: what they read from the settings, and the boxes shown.
+// Their buttons are pressed by the offscreen window tests.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -10,10 +11,6 @@
 
 namespace benchlog::testing {
 namespace {
-
-std::string Saved(const MemorySettings& settings, const std::string& section, const std::string& key) {
-  return settings.GetSetting(section, key, "<none>");
-}
 
 TEST(OutputOptions, DefaultsOfAFirstRun) {
   MemorySettings settings;
@@ -87,47 +84,6 @@ TEST(OutputOptions, OptionGroupsFromTheSettings) {
   }
 }
 
-TEST(OutputOptions, TheScaleFrameFollowsTheMicrostationBox) {
-  MemorySettings settings;
-  settings.SaveSetting("frmOutputOptions", "FileTypes", "000001");
-  frmOutputOptions form;
-  form.Load(settings, SourceSupport());
-  EXPECT_TRUE(form.fraScaleVisible);
-  form.chkMicrostation = 0;
-  form.chkMicrostation_Click();
-  EXPECT_FALSE(form.fraScaleVisible);
-  form.chkMicrostation = 1;
-  form.chkMicrostation_Click();
-  EXPECT_TRUE(form.fraScaleVisible);
-}
-
-TEST(OutputOptions, OkaySavesEveryControlAndLeavesTheTag) {
-  MemorySettings settings;
-  frmOutputOptions form;
-  form.Load(settings, SourceSupport());
-  form.SetAllStations(false);
-  form.chkHoriz = 1;
-  form.chkMicrostation = 1;
-  form.chkNRMarks = 1;
-  form.cboScale = "1:2400";
-  form.SetUnits(true, false, false);
-  form.SetElevationUnits(true, false);
-  form.cboProjZone = "NC    3200";
-  form.Top = 1200;
-  form.Left = 3000;
-  form.Tag = "Canceled";
-  form.cmdOkay_Click();
-  EXPECT_EQ(form.Tag, "Canceled");
-  const std::pair<const char*, const char*> expected[] = {
-      {"AllStations", "False"}, {"FileTypes", "100001"}, {"PlotNRMks", "1"}, {"PlotLandMks", "0"},
-      {"Scale", "1:2400"},      {"Feet", "True"},        {"Meters", "False"}, {"UTM", "False"},
-      {"ElevFeet", "True"},     {"ElevM", "False"},      {"Zone", "NC    3200"}, {"Top", "1200"},
-      {"Left", "3000"}};
-  for (const auto& [key, value] : expected) EXPECT_EQ(Saved(settings, "frmOutputOptions", key), value) << key;
-  form.cmdCancel_Click();
-  EXPECT_EQ(form.Tag, "Canceled");
-}
-
 TEST(Cdt, StateAtLoad) {
   MemorySettings settings;
   frmCDT form;
@@ -143,30 +99,6 @@ TEST(Cdt, StateAtLoad) {
   EXPECT_EQ(form.cboSPCZone, "MD   ");
   EXPECT_EQ(form.cboUTMZone, "18");
   EXPECT_TRUE(form.optUSFt && !form.optMeters && !form.optIFt);
-}
-
-TEST(Cdt, SettingsOfItsSection) {
-  MemorySettings settings;
-  settings.SaveSetting("Settings", "Zone", "NC   ");
-  settings.SaveSetting("Settings", "UTMZone", "17");
-  settings.SaveSetting("Settings", "optMeters", "True");
-  settings.SaveSetting("Settings", "optSurveyFt", "False");
-  settings.SaveSetting("frmCDT", "Top", "450");
-  frmCDT form;
-  form.Load(settings, SourceSupport());
-  EXPECT_EQ(form.cboSPCZone, "NC   ");
-  EXPECT_EQ(form.cboUTMZone, "17");
-  EXPECT_TRUE(!form.optUSFt && form.optMeters && !form.optIFt);
-  EXPECT_EQ(form.Top, 450);
-
-  form.cboUTMZone = "16";
-  form.Tag = "Canceled";
-  form.cmdOkay_Click();
-  EXPECT_EQ(form.Tag, "");
-  EXPECT_EQ(Saved(settings, "Settings", "UTMZone"), "16");
-  EXPECT_EQ(Saved(settings, "Settings", "Zone"), "NC   ");
-  form.cmdCancel_Click();
-  EXPECT_EQ(form.Tag, "Canceled");
 }
 
 TEST(Cdt, VerticalOnlyHidesTheBoxesOfHorizontalControl) {
@@ -188,19 +120,6 @@ TEST(Cdt, VerticalOnlyHidesTheBoxesOfHorizontalControl) {
   form.Optvert_Click();
   form.OptHoriz_Click();
   EXPECT_EQ(visible().size(), frmCDT::Boxes().size());
-}
-
-TEST(Cdt, CheckAllAndClearAll) {
-  frmCDT form;
-  form.Optvert_Click();
-  form.cmdCheckAll_Click();
-  for (const auto& box : frmCDT::Boxes()) EXPECT_EQ(form.*box.value, 1) << box.name;
-  EXPECT_TRUE(form.optBoth && !form.Optvert);
-  EXPECT_TRUE(form.horizontalBoxesVisible);
-  form.Optvert_Click();
-  form.cmdClearAll_Click();
-  for (const auto& box : frmCDT::Boxes()) EXPECT_EQ(form.*box.value, 0) << box.name;
-  EXPECT_TRUE(form.Optvert) << "Clear All leaves the buttons";
 }
 
 }  // namespace

@@ -28,13 +28,14 @@ struct Expected {
 
 // The sample dataset (45 marks) `copies` times over.
 std::string Samples(int copies) {
-  const std::string sample = ReadWholeFile(std::string(BENCHLOG_SOURCE_DIR) + "/support/samples/sample.dat");
+  const std::string sample = ReadWholeFile(SampleDataset());
   std::string text;
   while (copies-- > 0) text += sample;
   return text;
 }
 
-// The same text read and parsed one Description after another on this thread.
+// The same text read and parsed one Description after another on this thread; every
+// Description of the sample parses without an error.
 std::vector<Expected> ParsedOneByOne(const std::string& text) {
   TextBlocks blocks(text);
   DescriptionStream descriptions(blocks);
@@ -46,6 +47,7 @@ std::vector<Expected> ParsedOneByOne(const std::string& text) {
     ClearMarkRecord(*record);
     std::string error;
     ParseDescription(descriptions.Pid(), lines, 0, ParseGroups{}, error, *record, SourceSupportFiles());
+    EXPECT_EQ(error, "") << descriptions.Pid();
     marks.push_back({std::string(descriptions.Pid()), std::move(record)});
   }
   return marks;

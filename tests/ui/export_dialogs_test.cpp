@@ -46,7 +46,7 @@ class ExportDialogsTest : public QObject {
 
  private slots:
   // The options window shows the loaded model under its captions, hands every edit and Okay back
-  // to it, and Cancel and Esc set its tag; what Okay saves is checked by the model tests.
+  // to it, and Cancel and Esc set its tag.
   void outputOptionsShowAndHandBackTheModel() {
     testing::MemorySettings settings;
     settings.SaveSetting("frmOutputOptions", "FileTypes", "010000");
@@ -85,7 +85,11 @@ class ExportDialogsTest : public QObject {
 
     Find<QPushButton>(window, "cmdOkay")->click();
     QVERIFY(!window.isVisible());
-    QCOMPARE(settings.GetSetting("frmOutputOptions", "Zone", ""), std::string("NC    3200"));
+    frmOutputOptions again;  // Okay saved what a later export loads
+    again.Load(settings, kSupport);
+    QVERIFY(again.chkHoriz == 1 && again.chkMicrostation == 1 && again.optSelectedSta && again.optFeet && again.optElFeet);
+    QCOMPARE(again.cboScale, std::string("2000"));
+    QCOMPARE(again.cboProjZone, std::string("NC    3200"));
     window.show();
     Find<QPushButton>(window, "cmdCancel")->click();
     QCOMPARE(model.Tag, std::string("Canceled"));
@@ -117,6 +121,7 @@ class ExportDialogsTest : public QObject {
     for (const auto& box : frmCDT::Boxes()) QVERIFY2(Find<QCheckBox>(window, box.name)->isChecked(), box.name);
     Find<QPushButton>(window, "cmdClearAll")->click();
     for (const auto& box : frmCDT::Boxes()) QCOMPARE(model.*box.value, 0);
+    QVERIFY(model.optBoth);  // Clear All leaves the option buttons
 
     Find<QCheckBox>(window, "chkUTM")->click();
     QCOMPARE(model.chkUTM, 1);
@@ -128,6 +133,7 @@ class ExportDialogsTest : public QObject {
     model.Tag = "Canceled";
     Find<QPushButton>(window, "cmdOkay")->click();
     QCOMPARE(model.Tag, std::string(""));
+    QCOMPARE(settings.GetSetting("Settings", "UTMZone", ""), std::string("17"));
     QVERIFY(!window.isVisible());
   }
 };

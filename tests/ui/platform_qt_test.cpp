@@ -1,5 +1,6 @@
 // The Qt platform services offscreen: where and how settings are stored, the file filters, colour
-// numbers, the progress window and the single-instance lock.
+// numbers, the progress window and the single-instance lock. The code page's conversions are
+// checked through the viewer's text (frm_view_test.cpp).
 #include <QFile>
 #include <QLabel>
 #include <QProgressBar>
@@ -11,7 +12,6 @@
 #include "platform/qt/qt_settings_store.hpp"
 #include "platform/qt/qt_ui.hpp"
 #include "platform/qt/single_instance.hpp"
-#include "platform/qt/text_codec.hpp"
 
 using namespace benchlog;
 
@@ -61,14 +61,6 @@ class PlatformQtTest : public QObject {
     QCOMPARE(qt::ColorNumber(QColor(0, 0, 255)), 16711680u);
     QCOMPARE(qt::ColorOfNumber(16777215), QColor(255, 255, 255));
     QCOMPARE(qt::ColorOfNumber(0x00336699), QColor(0x99, 0x66, 0x33));
-  }
-
-  void textCodecRoundTripsTheCodePage() {
-    std::string all;
-    for (int c = 1; c < 256; ++c) all += static_cast<char>(c);
-    QCOMPARE(qt::FromQt(qt::ToQt(all)), all);
-    QCOMPARE(qt::ToQt("\x80"), QString(QChar(0x20AC)));  // the euro sign
-    QCOMPARE(qt::FromQt(QString(QChar(0x4E2D))), std::string("?"));
   }
 
   void progressWindowMirrorsItsModel() {

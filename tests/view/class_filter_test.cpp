@@ -4,7 +4,6 @@
 
 #include "common/files.hpp"
 #include "common/text.hpp"
-#include "fakes/fakes.hpp"
 #include "fakes/test_paths.hpp"
 #include "session/frm_select_points.hpp"
 #include "view/class_filter.hpp"
@@ -21,8 +20,6 @@ std::string Record(const std::map<int, std::string>& columns) {
   for (const auto& [column, text] : columns) record.replace(static_cast<std::size_t>(column - 1), text.size(), text);
   return record;
 }
-
-std::string Sentinel() { return std::string(134, ' ') + "000012345 |"; }
 
 const std::map<std::string, int> kClasses = {
     {"AllHorizontal", kAllHorizontal}, {"HorizontalFirstAndBetter", kHorizontalFirstAndBetter},
@@ -41,36 +38,15 @@ TEST(ClassFilter, EachClassTestsItsColumn) {
     ASSERT_EQ(cells.size(), 4u) << line;
     std::map<int, std::string> columns;
     for (const std::string& piece : Split(cells[1], ";"))
-      if (!piece.empty()) columns[std::stoi(piece)] = piece.substr(piece.find('=') + 1);
-    EXPECT_EQ(PassesClassTest(Record(columns), kClasses.at(cells[0])), cells[2] == "1") << cells[3];
+      if (!piece.empty() && piece != "EMPTY" && piece != "SENTINEL")
+        columns[std::stoi(piece)] = piece.substr(piece.find('=') + 1);
+    const std::string record = cells[1] == "EMPTY"      ? std::string()
+                               : cells[1] == "SENTINEL" ? std::string(134, ' ') + "000012345 |"
+                                                        : Record(columns);
+    EXPECT_EQ(PassesClassTest(record, kClasses.at(cells[0])), cells[2] == "1") << cells[3];
     ++cases;
   }
-  EXPECT_EQ(cases, 34);
-}
-
-TEST(ClassFilter, EmptyElementPassesEveryNotBlankTest) {
-  // An empty element has no column at all, which is no blank.
-  for (int code : {kAllHorizontal, kAllVertical, kCors, kBaseNetwork, kAirport, kTidal, kHeightMod})
-    EXPECT_TRUE(PassesClassTest("", code)) << code;
-  for (int code : {kHorizontalFirstAndBetter, kVerticalFirstOnly, kLandmarks, kGpsSuitable, kBoundaryMonuments,
-                   kRecoveredNotPositioned, kRecoveredNotPhotographed})
-    EXPECT_FALSE(PassesClassTest("", code)) << code;
-}
-
-TEST(ClassFilter, SentinelPassesNoColumnTest) {
-  for (const auto& [name, code] : kClasses) EXPECT_FALSE(PassesClassTest(Sentinel(), code)) << name;
-}
-
-TEST(FrmSelectPoints, SelectAllLeavesTheFirstItemAsItWas) {
-  FrmSelectPoints list;
-  list.AddItem("only");
-  list.cmdSelectAll_Click();
-  EXPECT_FALSE(list.Selected(0));  // one item: nothing selected
-
-  list.Clear();
-  for (const char* item : {"a", "b", "c"}) list.AddItem(item);
-  list.cmdSelectAll_Click();
-  EXPECT_EQ(list.selected, (std::vector<bool>{false, true, true}));
+  EXPECT_EQ(cases, 62);
 }
 
 TEST(FrmSelectPoints, ItemOfARecordEndsInItsPid) {
@@ -81,14 +57,6 @@ TEST(FrmSelectPoints, ItemOfARecordEndsInItsPid) {
   // An empty element gives an item of two blanks and an empty PID.
   EXPECT_EQ(SelectionItemOfRecord(""), "  ");
   EXPECT_EQ(FrmSelectPoints::PidOfItem("  "), "");
-}
-
-TEST(FrmSelectPoints, GeometryDefaults) {
-  testing::MemorySettings settings;
-  FrmSelectPoints list;
-  list.Load(settings);
-  EXPECT_EQ(list.placement.height, 7605);
-  EXPECT_EQ(list.placement.width, 9720);
 }
 
 }  // namespace

@@ -20,99 +20,74 @@ struct ViewSetup {
   FakePlatform fake;
   frmView view;
   ViewSetup() {
-    folder.Write("PH0001ph.jpg", "jpeg");
-    folder.Write("SK0002sk.jpg", "jpeg");
-    folder.Write("PS0003ph.jpg", "jpeg");
-    folder.Write("PS0003sk.jpg", "jpeg");
+    for (const char* name : {"PH0001ph.jpg", "SK0002sk.jpg", "PS0003ph.jpg", "PS0003sk.jpg"}) folder.Write(name, "jpeg");
   }
   void ShowMark(const std::string& pid) {
     view.Tag = pid;
     view.Activate(dir);
   }
+  // The menus offered ("D"escription, "P"hoto, "S"ketch), then the caption, PhotoFlag and what
+  // shows: the text, or the picture with its file name.
+  std::string State() const {
+    const std::string menus = std::string(view.mnuViewDescVisible ? "D" : "") + (view.mnuViewPhotoVisible ? "P" : "") +
+                              (view.mnuViewSketchVisible ? "S" : "");
+    const std::string shown = view.imgPhotoVisible ? "image " + view.imgPhoto.substr(dir.size()) : "";
+    return menus + "|" + view.Caption + "|" + std::to_string(view.PhotoFlag) + "|" +
+           (view.txtViewFileVisible ? "text" : "") + shown;
+  }
 };
 
 TEST(frmView, ActivationOffersThePicturesThatExist) {
-  struct Case {
-    const char* pid;
-    bool photo, sketch;
-  };
-  const Case cases[] = {{"PH0001", true, false}, {"SK0002", false, true}, {"PS0003", true, true}, {"NO0004", false, false}};
-  for (const auto& c : cases) {
+  const std::pair<const char*, const char*> cases[] = {{"PH0001", "P"}, {"SK0002", "S"}, {"PS0003", "PS"}, {"NO0004", ""}};
+  for (const auto& [pid, menus] : cases) {
     ViewSetup s;
     s.view.SelStart = 55;
     s.view.mnuViewDescVisible = true;
-    s.ShowMark(c.pid);
-    EXPECT_EQ(s.view.PhotoPath, s.dir + c.pid + "ph.jpg");
-    EXPECT_EQ(s.view.SketchPath, s.dir + c.pid + "sk.jpg");
-    EXPECT_EQ(s.view.mnuViewPhotoVisible, c.photo) << c.pid;
-    EXPECT_EQ(s.view.mnuViewSketchVisible, c.sketch) << c.pid;
-    EXPECT_EQ(s.view.HasPhoto, c.photo ? 1 : 0) << c.pid;
-    EXPECT_EQ(s.view.HasSketch, c.sketch ? 1 : 0) << c.pid;
-    EXPECT_FALSE(s.view.mnuViewDescVisible);
+    s.ShowMark(pid);
+    EXPECT_EQ(s.State(), std::string(menus) + "||0|text") << pid;
+    EXPECT_EQ(s.view.PhotoPath, s.dir + pid + "ph.jpg");
+    EXPECT_EQ(s.view.SketchPath, s.dir + pid + "sk.jpg");
+    EXPECT_EQ(s.view.HasPhoto, std::string(menus).find('P') != std::string::npos ? 1 : 0) << pid;
+    EXPECT_EQ(s.view.HasSketch, std::string(menus).find('S') != std::string::npos ? 1 : 0) << pid;
     EXPECT_EQ(s.view.SelStart, 0u);
   }
 }
 
-TEST(frmView, PhotoThenDescription) {
+// The sketch's caption has no PID, and PhotoFlag keeps what the photo set.
+TEST(frmView, PicturesAndTheDescriptionInTurn) {
   ViewSetup s;
   s.ShowMark("PH0001");
   s.view.mnuViewPhoto(s.fake.ui);
-  EXPECT_EQ(s.view.PhotoFlag, 1);
-  EXPECT_FALSE(s.view.txtViewFileVisible);
-  EXPECT_TRUE(s.view.imgPhotoVisible);
-  EXPECT_EQ(s.view.imgPhoto, s.dir + "PH0001ph.jpg");
-  EXPECT_EQ(s.view.Caption, "View Photo for point PH0001");
-  EXPECT_TRUE(s.view.mnuViewDescVisible);
-  EXPECT_FALSE(s.view.mnuViewPhotoVisible);
-  EXPECT_FALSE(s.view.mnuViewSketchVisible);
-
+  EXPECT_EQ(s.State(), "D|View Photo for point PH0001|1|image PH0001ph.jpg");
   s.view.mnuViewDesc();
-  EXPECT_EQ(s.view.PhotoFlag, 0);
-  EXPECT_TRUE(s.view.txtViewFileVisible);
-  EXPECT_FALSE(s.view.imgPhotoVisible);
-  EXPECT_EQ(s.view.Caption, "View Description for point PH0001");
-  EXPECT_FALSE(s.view.mnuViewDescVisible);
-  EXPECT_TRUE(s.view.mnuViewPhotoVisible);
-  EXPECT_FALSE(s.view.mnuViewSketchVisible);
-}
-
-// The sketch's caption has no PID, and PhotoFlag keeps what the photo set.
-TEST(frmView, SketchAfterPhoto) {
-  ViewSetup s;
-  s.ShowMark("PS0003");
-  s.view.mnuViewPhoto(s.fake.ui);
-  EXPECT_TRUE(s.view.mnuViewSketchVisible);
-  s.view.mnuViewSketch(s.fake.ui);
-  EXPECT_EQ(s.view.Caption, "View Sketch for point");
-  EXPECT_EQ(s.view.PhotoFlag, 1);
-  EXPECT_EQ(s.view.imgPhoto, s.dir + "PS0003sk.jpg");
-  EXPECT_TRUE(s.view.mnuViewPhotoVisible);
-  EXPECT_FALSE(s.view.mnuViewSketchVisible);
-  EXPECT_TRUE(s.view.mnuViewDescVisible);
+  EXPECT_EQ(s.State(), "P|View Description for point PH0001|0|text");
 
   ViewSetup t;
-  t.ShowMark("SK0002");
+  t.ShowMark("PS0003");
+  t.view.mnuViewPhoto(t.fake.ui);
+  EXPECT_EQ(t.State(), "DS|View Photo for point PS0003|1|image PS0003ph.jpg");
   t.view.mnuViewSketch(t.fake.ui);
-  EXPECT_EQ(t.view.PhotoFlag, 0);
-  EXPECT_FALSE(t.view.mnuViewPhotoVisible);
+  EXPECT_EQ(t.State(), "DP|View Sketch for point|1|image PS0003sk.jpg");
+
+  ViewSetup u;
+  u.ShowMark("SK0002");
+  u.view.mnuViewSketch(u.fake.ui);
+  EXPECT_EQ(u.State(), "D|View Sketch for point|0|image SK0002sk.jpg");
 }
 
 TEST(frmView, APictureThatCannotBeLoadedLeavesTheView) {
   ViewSetup s;
   s.ShowMark("PS0003");
-  const std::string caption = s.view.Caption;
+  const std::string before = s.State();
   s.view.mnuViewPhoto(s.fake.ui, [](const std::string&) { return std::string("Invalid picture"); });
   EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{"Invalid picture"});
-  EXPECT_EQ(s.view.PhotoFlag, 0);
-  EXPECT_TRUE(s.view.txtViewFileVisible);
+  EXPECT_EQ(s.State(), before);
   EXPECT_EQ(s.view.imgPhoto, "");
-  EXPECT_EQ(s.view.Caption, caption);
-  EXPECT_TRUE(s.view.mnuViewPhotoVisible);
 
   DeleteFileIfExists(s.folder.File("PS0003sk.jpg"));  // gone since activation
   s.view.mnuViewSketch(s.fake.ui);
   EXPECT_EQ(s.fake.ui.MessageTexts().back(), "File not found");
-  EXPECT_TRUE(s.view.txtViewFileVisible);
+  EXPECT_EQ(s.State(), before);
 
   ViewSetup t;
   t.ShowMark("NO0004");
@@ -136,15 +111,15 @@ TEST(frmView, AClickShowsTheMarkOfTheLineNearIt) {
   struct Case {
     std::size_t selStart;
     const char* pid;
-    bool photo, sketch;
+    const char* menus;
   };
   const Case cases[] = {
-      {10, "PH0001", true, false},      // first 80 characters: the line after the first CR LF
-      {0, "PH0001", true, false},
-      {7 * 80 + 19, "PS0003", true, true},  // inside the third Description
-      {8 * 80 + 5, "PS0003", true, true},
-      {4 * 80 + 40, "SK0002", false, true},
-      {6 * 80, "      ", false, false},  // the start of a header line: its blanks
+      {10, "PH0001", "P"},         // first 80 characters: the line after the first CR LF
+      {0, "PH0001", "P"},
+      {7 * 80 + 19, "PS0003", "PS"},  // inside the third Description
+      {8 * 80 + 5, "PS0003", "PS"},
+      {4 * 80 + 40, "SK0002", "S"},
+      {6 * 80, "      ", ""},  // the start of a header line: its blanks
   };
   for (const auto& c : cases) {
     ViewSetup s;
@@ -153,9 +128,7 @@ TEST(frmView, AClickShowsTheMarkOfTheLineNearIt) {
     s.view.SelStart = c.selStart;
     s.view.FollowClick(s.dir);
     EXPECT_EQ(s.view.Tag, c.pid) << c.selStart;
-    EXPECT_EQ(s.view.Caption, std::string("Description for ") + c.pid) << c.selStart;
-    EXPECT_EQ(s.view.mnuViewPhotoVisible, c.photo) << c.selStart;
-    EXPECT_EQ(s.view.mnuViewSketchVisible, c.sketch) << c.selStart;
+    EXPECT_EQ(s.State(), std::string(c.menus) + "|Description for " + c.pid + "|0|text") << c.selStart;
     EXPECT_EQ(s.view.PhotoPath, s.dir + c.pid + "ph.jpg") << c.selStart;
   }
 }
@@ -260,19 +233,14 @@ TEST(frmView, LoadsItsSettingsWithDefaults) {
   testing::MemorySettings settings;
   frmView view;
   view.Load(settings);
-  EXPECT_EQ(view.placement.state, 0);
-  EXPECT_EQ(view.placement.top, 0);
-  EXPECT_EQ(view.placement.left, 0);
   EXPECT_EQ(view.placement.height, 8475);
   EXPECT_EQ(view.placement.width, 9255);
   settings.SaveSetting("frmView", "Windowstate", "2");
   settings.SaveSetting("frmView", "Top", "300");
-  settings.SaveSetting("frmView", "Width", "12000");
   settings.SaveSetting("frmView", "WindowState", "1");  // frmMain's spelling is not this window's
   view.Load(settings);
   EXPECT_EQ(view.placement.state, 2);
   EXPECT_EQ(view.placement.top, 300);
-  EXPECT_EQ(view.placement.width, 12000);
 }
 
 TEST(frmView, UnloadSavesThePlacement) {
