@@ -1,7 +1,6 @@
 #include "export/frm_cdt.hpp"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
@@ -82,11 +81,8 @@ void frmCDT::Load(SettingsStore& settings, const std::string& supportPath) {
   }
   cboSPCZone = settings.GetSetting("Settings", "Zone", "MD   ");
   cboUTMZoneList.clear();
-  for (int zone = 1; zone <= 24; ++zone) {
-    char text[3];
-    std::snprintf(text, sizeof text, "%02d", zone);
-    cboUTMZoneList.emplace_back(text);
-  }
+  for (int zone = 1; zone <= 24; ++zone)
+    cboUTMZoneList.push_back({static_cast<char>('0' + zone / 10), static_cast<char>('0' + zone % 10)});
   cboUTMZone = settings.GetSetting("Settings", "UTMZone", "18");
   // As the classic group: a true button clears the others, a false one only itself.
   if (SettingTruth(settings.GetSetting("Settings", "optMeters", "False"), false)) SetUnits(false, true, false);
