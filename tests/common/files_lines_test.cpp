@@ -1,0 +1,144 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+#include "common/files.hpp"
+#include "common/fit.hpp"
+#include "common/line_input.hpp"
+#include "common/print_line.hpp"
+#include "fakes/temp_folder.hpp"
+#include "test_support.hpp"
+
+namespace benchlog {
+namespace {
+
+using testing::TempFolder;
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+using Lines = std::vector<std::string>;
+
+TEST(Files, WriteAppendAndReadAreByteExact) {
+  TempFolder folder;
+  const std::string path = folder.File("a.dat");
+  WriteWholeFile(path, "A\0\xE9\r\n"s);
+  AppendToFile(path, "B\n");
+  EXPECT_EQ(ReadWholeFile(path), "A\0\xE9\r\nB\n"s);
+  EXPECT_EQ(FileLength(path), 7u);
+  WriteWholeFile(path, "");
+  EXPECT_EQ(FileLength(path), 0u);
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_FALSE(FileExists(folder.File("")));  // the folder itself is no file
+}
+
+TEST(Files, AMissingFileIsFileNotFound) {
+  TempFolder folder;
+  const std::string missing = folder.File("missing.dat");
+  EXPECT_EQ(FailureOf([&] { FileLength(missing); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { ReadWholeFile(missing); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { ReadWholeFile(folder.File("")); }), kFileNotFound);
+  EXPECT_FALSE(FileExists(missing));
+  EXPECT_NO_THROW(DeleteFileIfExists(missing));
+}
+
+TEST(Files, IsReadOnlyWhenTheFileCannotBeWritten) {
+  TempFolder folder;
+  const std::string path = folder.File("a.dat");
+  EXPECT_FALSE(IsReadOnly(path));  // missing
+  WriteWholeFile(path, "x");
+  EXPECT_FALSE(IsReadOnly(path));
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  EXPECT_TRUE(IsReadOnly(path));  // also for a user who could write it anyway
+  fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+  EXPECT_FALSE(IsReadOnly(path));
+}
+
+constexpr std::size_t kBuffer = LineReader::kBufferSize;
+
+Lines ReadAll(const std::string& path) {
+  LineReader reader(path);
+  Lines lines;
+  std::string_view line;
+  while (reader.ReadLine(line)) lines.emplace_back(line);
+  return lines;
+}
+
+TEST(LineReader, EndsLinesAtCrOrCrLfAndKeepsEveryOtherByte) {
+  struct Case { const char* name; std::string content; Lines expected; };
+  const std::string x(kBuffer - 1, 'x');
+  const std::string z(kBuffer + 10, 'z');
+  const Case cases[] = {
+      {"empty file", "", {}},
+      {"only CR LF", "\r\n", {""}},
+      {"last line without end", "a\r\nb", {"a", "b"}},
+      {"lone CR", "a\rb\r", {"a", "b"}},
+      {"lone LF stays", "a\nb\r\nc\n", {"a\nb", "c\n"}},
+      {"CR then CR LF", "a\r\r\nb", {"a", "", "b"}},
+      {"empty line at the end", "a\r\n\r\n", {"a", ""}},
+      {"bytes above 127 and NUL", "\xE9\0z\xFF\r\n"s, {"\xE9\0z\xFF"s}},
+      {"CR last in the buffer, LF in the next read", x + "\r\ny", {x, "y"}},
+      {"CR last in the buffer, then a line", x + "\rab\r\n", {x, "ab"}},
+      {"CR last byte of the file", x + "\r", {x}},
+      {"line across the buffer", "a\r\n" + z + "\r\nb", {"a", z, "b"}},
+  };
+  TempFolder folder;
+  const std::string path = folder.File("lines.dat");
+  for (const auto& c : cases) {
+    WriteWholeFile(path, c.content);
+    EXPECT_EQ(ReadAll(path), c.expected) << c.name;
+  }
+}
+
+TEST(LineReader, ReadsIntoAStringAndFailsOnAMissingFile) {
+  TempFolder folder;
+  WriteWholeFile(folder.File("a.dat"), "one\r\ntwo");
+  LineReader reader(folder.File("a.dat"));
+  std::string line;
+  ASSERT_TRUE(reader.ReadLine(line));
+  EXPECT_EQ(line, "one");
+  ASSERT_TRUE(reader.ReadLine(line));
+  EXPECT_EQ(line, "two");
+  EXPECT_FALSE(reader.ReadLine(line));
+  EXPECT_FALSE(reader.ReadLine(line));
+  EXPECT_EQ(FailureOf([&] { LineReader missing(folder.File("missing.dat")); }), kFileNotFound);
+}
+
+TEST(SplitCrLf, SplitsAtCrLfOnly) {
+  EXPECT_EQ(SplitCrLf("a\r\nb\r\n"), (Lines{"a", "b", ""}));
+  EXPECT_EQ(SplitCrLf(""), (Lines{""}));
+  EXPECT_EQ(SplitCrLf("a\rb\nc"), (Lines{"a\rb\nc"}));
+  EXPECT_EQ(SplitCrLf("\r\n\r\n"), (Lines{"", "", ""}));
+}
+
+TEST(PrintLine, TabMovesToTheColumnOrToItOnANewLine) {
+  struct Case { const char* name; std::function<void(PrintLine&)> build; const char* expected; };
+  const Case cases[] = {
+      {"items join", [](PrintLine& p) { p.Write("1").Write("23"); }, "123\r\n"},
+      {"tab forward", [](PrintLine& p) { p.Write("AB").Tab(5).Write("C"); }, "AB  C\r\n"},
+      {"tab to the current column", [](PrintLine& p) { p.Write("AB").Tab(3).Write("C"); }, "ABC\r\n"},
+      {"tab past", [](PrintLine& p) { p.Write("ABCDEF").Tab(3).Write("X"); }, "ABCDEF\r\n  X\r\n"},
+      {"tab back to 1", [](PrintLine& p) { p.Write("AB").Tab(1).Write("X"); }, "AB\r\nX\r\n"},
+      {"tab 0 is tab 1", [](PrintLine& p) { p.Tab(0).Write("X"); }, "X\r\n"},
+      {"tab at the end", [](PrintLine& p) { p.Write("A").Tab(4); }, "A  \r\n"},
+      {"written line end", [](PrintLine& p) { p.Write("AB\r\nC").Tab(3).Write("D"); }, "AB\r\nC D\r\n"},
+      {"empty", [](PrintLine&) {}, "\r\n"},
+  };
+  for (const auto& c : cases) {
+    PrintLine line;
+    c.build(line);
+    EXPECT_EQ(line.Finish(), c.expected) << c.name;
+  }
+}
+
+TEST(PrintLine, ColumnCountsFromOneAndFinishStartsAgain) {
+  PrintLine line;
+  EXPECT_EQ(line.Write("ABC").Column(), 4u);
+  EXPECT_EQ(line.Tab(2).Column(), 2u);
+  line.Finish();
+  EXPECT_EQ(line.Column(), 1u);
+  EXPECT_EQ(line.Write("Z").Finish(), "Z\r\n");
+}
+
+}  // namespace
+}  // namespace benchlog
