@@ -3,8 +3,6 @@
 
 #include <charconv>
 #include <clocale>
-#include <functional>
-#include <map>
 
 #include "common/dates.hpp"
 #include "common/fit.hpp"
@@ -21,7 +19,7 @@
 namespace benchlog {
 namespace {
 
-using Args = std::vector<std::string>;
+using Args = testing::CallArgs;
 
 std::string Num(double value) {
   char text[64];
@@ -33,8 +31,7 @@ std::vector<std::string> Lines(const std::string& text) {
   return text.empty() ? std::vector<std::string>{} : Split(text, ",");
 }
 
-// Each function with its number of arguments; the fields after them are its result.
-const std::map<std::string, std::pair<std::size_t, std::function<std::string(const Args&)>>> kCalls = {
+const testing::CallTable kCalls = {
     {"Format", {2, [](const Args& a) { return Format(std::stod(a[0]), a[1]); }}},
     {"Date", {1, [](const Args& a) { return (IsDate(a[0]) ? "" : "no date ") + DateTextToYyyymmdd(a[0]); }}},
     {"Val", {1, [](const Args& a) { return Num(Val(a[0])); }}},
@@ -72,26 +69,7 @@ const std::map<std::string, std::pair<std::size_t, std::function<std::string(con
      }}},
 };
 
-TEST(Helpers, GiveTheResultsOfTheCaseTable) {
-  std::map<std::string, int> used;
-  for (const auto& row : testing::ReadRows("common/cases.txt", 247, '|')) {
-    const auto call = kCalls.find(row[0]);
-    ASSERT_NE(call, kCalls.end()) << row[0];
-    const auto& [arguments, function] = call->second;
-    ASSERT_GT(row.size(), arguments + 1) << row[0] << " " << row[1];
-    const Args args(row.begin() + 1, row.begin() + 1 + static_cast<long>(arguments));
-    const std::string expected = Join(Args(row.begin() + 1 + static_cast<long>(arguments), row.end()), "|");
-    std::string actual;
-    try {
-      actual = function(args);
-    } catch (const RuntimeFailure& failure) {
-      actual = "failure " + std::to_string(failure.number);
-    }
-    EXPECT_EQ(actual, expected) << row[0] << "(\"" << Join(args, "\", \"") << "\")";
-    ++used[row[0]];
-  }
-  EXPECT_EQ(used.size(), kCalls.size());
-}
+TEST(Helpers, GiveTheResultsOfTheCaseTable) { testing::CheckCalls("common/cases.txt", 247, kCalls); }
 
 // A pattern with more places than a double has digits writes the digits, then zeros.
 TEST(Format, ThousandsOfPlaces) {

@@ -222,28 +222,6 @@ TEST_F(GeodesyTest, ObliqueAccuracyAgainstProj) {
   EXPECT_LT(scale.value, 1e-8) << scale.where;  // PROJ prints it to 8 decimals
 }
 
-TEST(UtmZoneLine, ChoosesTheZoneFromTheLongitude) {
-  struct Case { double westDegrees; int zoneIn, zone; const char* meridian; };
-  const Case cases[] = {
-      {77, 0, 18, "075"},
-      {77, 17, 17, "081"},    // a forced neighbouring zone keeps its number
-      {114, 0, 12, "111"},    // on a zone boundary: the eastern zone
-      {0.5, 0, 30, "003"},
-      {179.9, 0, 1, "177"},
-      {180, 0, 61, "177"},    // 180 or more counts from 546: a 61st zone, its meridian still 177
-      {200, 0, 57, "201"},    // 160 E written as 200 W
-      {350, 0, 32, "351"},    // 10 E
-  };
-  for (const auto& c : cases) {
-    std::string line;
-    auto zone = static_cast<std::int16_t>(c.zoneIn);
-    UtmZoneLine(line, RadOfDeg(c.westDegrees), zone);
-    EXPECT_EQ(zone, c.zone) << c.westDegrees;
-    EXPECT_EQ(Mid(line, 12, 3), c.meridian) << c.westDegrees;
-    EXPECT_EQ(Mid(line, 101, 3), c.meridian) << c.westDegrees;
-  }
-}
-
 TEST(UtmZoneLine, LineReadsThroughTheZoneTableColumns) {
   std::string line;
   std::int16_t zone = 0;
@@ -285,12 +263,6 @@ TEST_F(GeodesyTest, UtmEastOfGreenwichAgainstProj) {
       EXPECT_NEAR(convergence, RadOfDeg(c.convergence), RadOfDeg(1e-8)) << westDegrees;
       EXPECT_NEAR(scale, c.scale, 1e-8) << westDegrees;
     }
-  }
-  // A zone number that does not fit its two columns.
-  for (const std::int16_t given : {100, -10}) {
-    std::string line;
-    std::int16_t zone = given;
-    EXPECT_THROW(UtmZoneLine(line, RadOfDeg(77), zone), RuntimeFailure) << given;
   }
 }
 
@@ -367,17 +339,11 @@ TEST_F(ZoneLookup, MissingTableIsTheFileError) {
   }
 }
 
-// The unit of each zone's feet, as its state defines them: grid feet come from it.
+// Grid feet come from the unit of each zone's feet, as its state defines them.
 TEST(ZoneTable, FootUnits) {
   EXPECT_DOUBLE_EQ(GridFeetPerMetre("iFT"), 1 / 0.3048);
   EXPECT_EQ(GridFeetPerMetre("sFT"), 3937.0 / 1200.0);
   EXPECT_EQ(GridFeetPerMetre("   "), 3937.0 / 1200.0);
-  struct Case { const char *key, *unit; };
-  for (const Case c : {Case{"MD   ", "sFT"}, Case{"MI N ", "iFT"}, Case{"AK 10", "   "}}) {
-    std::string line;
-    FindZoneLine(c.key, "", line, SupportPath());
-    EXPECT_EQ(ZoneFootUnit(line), c.unit) << c.key;
-  }
 }
 
 }  // namespace
