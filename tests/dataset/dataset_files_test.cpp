@@ -13,6 +13,7 @@
 #include "dataset/load_dataset_index.hpp"
 #include "dataset/mark_lookup.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/test_rows.hpp"
 #include "session/index_record.hpp"
 
 namespace benchlog {
@@ -22,83 +23,31 @@ using testing::FakePlatform;
 using testing::Fixture;
 using testing::TempFolder;
 
-TEST(DatasetText, TellsHeaderDataAndForeignLinesApart) {
-  struct Case {
-    const char* line;
-    bool header, data, foreign;
-  };
-  const Case cases[] = {
-      {"1        Orbis Control Office", true, false, false},
-      {"1      ", true, false, false},
-      {"1", false, false, true},             // "1" alone
-      {"1     X", false, false, true},       // five blanks only
-      {"1\tOrbis", false, false, true},      // a tab is not a blank
-      {" AB1234  PID         -  AB1234", false, true, false},
-      {"      ", false, true, false},        // a line of blanks
-      {"", false, false, true},              // empty: column 1 is no blank
-      {"Retrieved 2024", false, false, true},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(IsHeaderLine(c.line), c.header) << '"' << c.line << '"';
-    EXPECT_EQ(IsDataLine(c.line), c.data) << '"' << c.line << '"';
-    EXPECT_EQ(IsForeignLine(c.line), c.foreign) << '"' << c.line << '"';
-  }
-}
+std::string Bool(bool value) { return value ? "1" : "0"; }
 
-TEST(DatasetText, ReadsPidMarkAndKeysByColumn) {
-  const std::string_view line = " AB1234_MARKER: DB = BENCH MARK DISK";
-  EXPECT_EQ(LinePid(line), "AB1234");
-  EXPECT_EQ(LineMark(line), '_');
-  EXPECT_TRUE(KeyAt(line, 8, "_MARKER:"));
-  EXPECT_FALSE(KeyAt(line, 9, "_MARKER:"));
-  EXPECT_EQ(Columns(line, 17, 2), "DB");
-  EXPECT_EQ(Columns(line, 28, 100), "MARK DISK");  // past the end: shorter
-  EXPECT_EQ(Columns(line, 200, 3), "");
-  EXPECT_EQ(LineMark(" AB12"), '\0');
-  EXPECT_EQ(CountedLength(line), line.size() + 2);
-  EXPECT_TRUE(IsBlankLine("     "));
-  EXPECT_FALSE(IsBlankLine("   .  "));
-}
-
-TEST(DatasetText, PositionLineHasTwoLayouts) {
-  struct Case {
-    const char* line;
-    bool longDatum;
-    const char* latitude;
-    const char* longitude;
+TEST(DatasetText, GivesTheResultsOfTheCaseTable) {
+  using Args = testing::CallArgs;
+  const testing::CallTable calls = {
+      {"Kind", {1, [](const Args& a) {
+         return Bool(IsHeaderLine(a[0])) + "|" + Bool(IsDataLine(a[0])) + "|" + Bool(IsForeignLine(a[0]));
+       }}},
+      {"Pid", {1, [](const Args& a) { return std::string(LinePid(a[0])); }}},
+      {"Mark", {1, [](const Args& a) { return LineMark(a[0]) ? std::string(1, LineMark(a[0])) : ""; }}},
+      {"KeyAt", {3, [](const Args& a) { return Bool(KeyAt(a[0], std::stoul(a[1]), a[2])); }}},
+      {"Columns", {3, [](const Args& a) { return std::string(Columns(a[0], std::stoul(a[1]), std::stoul(a[2]))); }}},
+      {"CountedLength", {1, [](const Args& a) { return std::to_string(CountedLength(a[0])); }}},
+      {"Blank", {1, [](const Args& a) { return Bool(IsBlankLine(a[0])); }}},
+      {"Position", {1, [](const Args& a) {
+         if (!IsPositionLine(a[0])) return std::string("0|0||");
+         return "1|" + Bool(IsLongDatumLayout(a[0])) + "|" + std::string(PositionLatitudeText(a[0])) + "|" +
+                std::string(PositionLongitudeText(a[0]));
+       }}},
+      {"History", {1, [](const Args& a) {
+         return Bool(IsHistoryHeadLine(a[0])) + "|" + Bool(IsHistoryLine(a[0])) + "|" + std::string(HistoryYear(a[0])) +
+                "|" + std::string(HistoryCondition(a[0])) + "|" + std::string(HistoryAgency(a[0]));
+       }}},
   };
-  const Case cases[] = {
-      // hyphen in 22: latitude at 25, longitude at 46
-      {" AB1234* NAD 83(2011)-  39 44 29.12345(N)    104 59 31.54321(W)     ADJUSTED", false, "39 44 29.12345",
-       "104 59 31.54321"},
-      // long tag, hyphen in 26: latitude at 29, longitude at 47
-      {" AB1235* NAD 83(NSRS2007)-  39 39 10.43210(N) 105 05 52.76543(W)    ADJUSTED", true, "39 39 10.43210",
-       "105 05 52.76543"},
-      // a coarse position keeps its blanks
-      {" AB1237* NAD 83(1986)-  47 36 05.1    (N)    122 20 10.2    (W)     SCALED", false, "47 36 05.1    ",
-       "122 20 10.2    "},
-      // cut short: shorter slices
-      {" AB1236* NAD 83(1986)-  39 40 0", false, "39 40 0", ""},
-  };
-  for (const auto& c : cases) {
-    EXPECT_TRUE(IsPositionLine(c.line));
-    EXPECT_EQ(IsLongDatumLayout(c.line), c.longDatum) << c.line;
-    EXPECT_EQ(PositionLatitudeText(c.line), c.latitude) << c.line;
-    EXPECT_EQ(PositionLongitudeText(c.line), c.longitude) << c.line;
-  }
-  EXPECT_FALSE(IsPositionLine(" AB1234* NAVD 88     -      1702.34   (meters)"));
-}
-
-TEST(DatasetText, HistoryLineFields) {
-  const std::string_view head = " AB1234  HISTORY     - Date     Condition        Report By";
-  const std::string_view entry = " AB1234  HISTORY     - 20120309 GOOD             COUSGS";
-  EXPECT_TRUE(IsHistoryHeadLine(head));
-  EXPECT_FALSE(IsHistoryHeadLine(entry));
-  EXPECT_TRUE(IsHistoryLine(entry));
-  EXPECT_EQ(HistoryYear(entry), "2012");
-  EXPECT_EQ(HistoryCondition(entry).substr(0, 4), "GOOD");
-  EXPECT_EQ(HistoryAgency(entry), "COUSGS");
-  EXPECT_EQ(HistoryAgency(head), "Report");
+  testing::CheckCalls("dataset/cases.txt", 27, calls);
 }
 
 struct Golden {
