@@ -1,6 +1,7 @@
 // Look-ups in the support files, each against its expected result in tests/data/support/cases.txt.
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <functional>
 
 #include "common/runtime_failure.hpp"
@@ -10,6 +11,7 @@
 #include "support_files/contributors.hpp"
 #include "support_files/country_file.hpp"
 #include "support_files/monument_category.hpp"
+#include "support_files/towns_file.hpp"
 
 namespace benchlog {
 namespace {
@@ -24,7 +26,7 @@ std::string CountryFile(const std::string& file) {
   return file == "fixture" ? testing::TestData("support/country_small.dat") : Folder(file) + kCountryFileName;
 }
 
-// The first argument of each is the file: "fixture" or "committed".
+// The first argument of a reader of a file is the file: "fixture" or "committed".
 const testing::CallTable kCalls = {
     {"Fips", {3, [](const Args& a) { return FipsIndex(CountryFile(a[0])).LookUp(a[1], a[2]); }}},
     {"Counties", {2, [](const Args& a) { return Join(CountryCountyList(CountryFile(a[0]), a[1]), ","); }}},
@@ -38,9 +40,18 @@ const testing::CallTable kCalls = {
        const NoteHeader h = SplitNoteHeader(a[1], ContributorTable::Load(Folder(a[0]) + kContributorsFileName));
        return h.agencyName + "|" + h.agencyCode + "|" + h.year + "|" + h.initials;
      }}},
+    {"Town", {1, [](const Args& a) {
+       const TownLine town = ReadTownLine(a[0]);
+       char degrees[64];
+       std::snprintf(degrees, sizeof degrees, "|%.9f|%.9f", town.latitude, town.longitude);
+       return town.name + degrees;
+     }}},
+    {"Extent", {4, [](const Args& a) {
+       return TownInExtent({"T", 36.0, 79.0}, std::stod(a[0]), std::stod(a[1]), std::stod(a[2]), std::stod(a[3])) ? "1" : "0";
+     }}},
 };
 
-TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 85, kCalls); }
+TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 97, kCalls); }
 
 TEST(SupportFiles, AMissingFileIsAFileNotFoundFailure) {
   const std::string missing = testing::TestData("support/nowhere/");
