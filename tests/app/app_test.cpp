@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-
-
 #include "app/app_commands.hpp"
 #include "app/command_registry.hpp"
 #include "app/configuration_file.hpp"
@@ -12,6 +10,7 @@
 #include "app/recent_files.hpp"
 #include "common/files.hpp"
 #include "common/runtime_failure.hpp"
+#include "common/test_support.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
 
@@ -22,21 +21,31 @@ using testing::FakePlatform;
 using testing::TempFolder;
 using testing::MemorySettings;
 
-struct LoadStepTest : ::testing::Test {
+const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
+                                        "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
+
+// The program's folder, with or without its configuration and support files.
+struct AppFolder : ::testing::Test {
   TempFolder app;
   FakePlatform fake{app.Path()};
   testing::TestSession session;
   WindowPlacement placement;
+  Configuration config;
 
-  void WriteAllFiles(const std::string& ini = "ELLIPSOID A=6378137\r\nELLIPSOID E2=0.00669438002290\r\n") {
+  void WriteSupportFiles() {
+    for (const char* name : kAllSupportFiles) app.Write(name, "x");
+  }
+  void WriteAllFiles() {
+    app.Write("Benchlog.ini", "ELLIPSOID A=6378137\r\nELLIPSOID E2=0.00669438002290\r\n");
+    WriteSupportFiles();
+  }
+  std::string Check(const std::string& ini) {
     app.Write("Benchlog.ini", ini);
-    for (const char* name : {"Contrib.dat", "Country.dat", "Groups.dat", "Monument_Category.dat", "Zones.txt",
-                             "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"})
-      app.Write(name, "x");
+    return CheckLoadFiles(fake.platform, config);
   }
 };
 
-TEST_F(LoadStepTest, FirstRunDefaults) {
+TEST_F(AppFolder, FirstRunDefaults) {
   WriteAllFiles();
   ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
   EXPECT_EQ(placement.state, kNormal);
@@ -58,13 +67,11 @@ TEST_F(LoadStepTest, FirstRunDefaults) {
   EXPECT_DOUBLE_EQ(session.config.ellipsoidE2, 0.00669438002290);
 }
 
-TEST_F(LoadStepTest, SavedStateIsRead) {
+TEST_F(AppFolder, SavedStateIsRead) {
   WriteAllFiles();
-  fake.settings.SaveSetting("frmMain", "WindowState", "2");
-  fake.settings.SaveSetting("frmMain", "Top", "1500");
-  fake.settings.SaveSetting("frmMain", "Left", "300");
-  fake.settings.SaveSetting("frmMain", "Height", "9000");
-  fake.settings.SaveSetting("frmMain", "Width", "12000");
+  for (const auto& [key, value] : {std::pair{"WindowState", "2"}, {"Top", "1500"}, {"Left", "300"}, {"Height", "9000"},
+                                    {"Width", "12000"}})
+    fake.settings.SaveSetting("frmMain", key, value);
   fake.settings.SaveSetting("Settings", "BackColor", "255");
   fake.settings.SaveSetting("MRUList", "Name1", "/x/one.dat");
   ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
@@ -77,7 +84,7 @@ TEST_F(LoadStepTest, SavedStateIsRead) {
   EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 /x/one.dat");
 }
 
-TEST_F(LoadStepTest, MissingFilesEndTheProgramWithACriticalBox) {
+TEST_F(AppFolder, MissingFilesEndTheProgramWithACriticalBox) {
   app.Write("Benchlog.ini", "ELLIPSOID E2=0.0067\r\n");
   EXPECT_FALSE(LoadMainWindow(session, fake.platform, placement));
   ASSERT_EQ(fake.ui.messages.size(), 1u);
@@ -89,7 +96,7 @@ TEST_F(LoadStepTest, MissingFilesEndTheProgramWithACriticalBox) {
             "Monument_Category.dat\r\nZones.txt\r\nHorizontal_Datum.dat\r\nEllipsoid.dat\r\nTowns.txt\r\n");
 }
 
-TEST_F(LoadStepTest, FailingEccentricityIsIgnoredAndSkipsTheFileTest) {
+TEST_F(AppFolder, FailingEccentricityIsIgnoredAndSkipsTheFileTest) {
   // E2 of 1 fails before the support files are tested, and the load goes on without a word.
   app.Write("Benchlog.ini", "ELLIPSOID E2=1\r\n");
   EXPECT_TRUE(LoadMainWindow(session, fake.platform, placement));
@@ -100,17 +107,12 @@ TEST_F(LoadStepTest, FailingEccentricityIsIgnoredAndSkipsTheFileTest) {
 TEST(ClosingStep, SavesPositionOnlyInTheNormalState) {
   testing::MemorySettings settings;
   SaveMainWindowPlacement(settings, {kNormal, 150, 300, 6000, 8000});
-  EXPECT_EQ(settings.GetSetting("frmMain", "Top", ""), "150");
-  EXPECT_EQ(settings.GetSetting("frmMain", "Left", ""), "300");
-  EXPECT_EQ(settings.GetSetting("frmMain", "Height", ""), "6000");
-  EXPECT_EQ(settings.GetSetting("frmMain", "Width", ""), "8000");
   EXPECT_EQ(settings.GetSetting("frmMain", "WindowState", ""), "0");
-
   // Closed maximised: the last normal geometry stays, the state says maximised.
   SaveMainWindowPlacement(settings, {kMaximized, 0, 0, 12000, 16000});
-  EXPECT_EQ(settings.GetSetting("frmMain", "Height", ""), "6000");
-  EXPECT_EQ(settings.GetSetting("frmMain", "Width", ""), "8000");
-  EXPECT_EQ(settings.GetSetting("frmMain", "WindowState", ""), "2");
+  for (const auto& [key, value] : {std::pair{"Top", "150"}, {"Left", "300"}, {"Height", "6000"}, {"Width", "8000"},
+                                    {"WindowState", "2"}})
+    EXPECT_EQ(settings.GetSetting("frmMain", key, ""), value) << key;
 }
 
 TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
@@ -127,30 +129,13 @@ TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
   EXPECT_EQ(clock.slept, std::chrono::seconds(2));
 }
 
-const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
-                                        "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
-
-struct ConfigurationTest : ::testing::Test {
-  TempFolder app;
-  FakePlatform fake{app.Path()};
-  Configuration config;
-
-  void WriteSupportFiles() {
-    for (const char* name : kAllSupportFiles) app.Write(name, "x");
-  }
-  std::string Check(const std::string& ini) {
-    app.Write("Benchlog.ini", ini);
-    return CheckLoadFiles(fake.platform, config);
-  }
-};
-
-TEST_F(ConfigurationTest, MissingConfigurationReportsOnlyItself) {
+TEST_F(AppFolder, MissingConfigurationReportsOnlyItself) {
   // No support file exists either, yet only the configuration file is named.
   EXPECT_EQ(CheckLoadFiles(fake.platform, config), "Benchlog.ini\r\n");
   EXPECT_EQ(fake.platform.paths.supportPath, app.Path() + "/");
 }
 
-TEST_F(ConfigurationTest, MissingSupportFilesAreListedInTestOrder) {
+TEST_F(AppFolder, MissingSupportFilesAreListedInTestOrder) {
   app.Write("Groups.dat", "x");
   app.Write("Towns.txt", "x");
   EXPECT_EQ(Check("ELLIPSOID E2=0.00669438002290\r\n"),
@@ -160,7 +145,7 @@ TEST_F(ConfigurationTest, MissingSupportFilesAreListedInTestOrder) {
   EXPECT_EQ(Check("ELLIPSOID E2=0.00669438002290\r\n"), "");
 }
 
-TEST_F(ConfigurationTest, KeysAndValuesAreTakenInUpperCaseAndLaterLinesWin) {
+TEST_F(AppFolder, KeysAndValuesAreTakenInUpperCaseAndLaterLinesWin) {
   WriteSupportFiles();
   Check("country=us\r\nState=md\r\nSTATE=va\r\nELLIPSOID A=6378137\r\nellipsoid e2=0.00669438002290\r\n"
         "Units=Meters\r\nno equals sign\r\n=orphan value\r\nHEMI1=n\r\nHEMI2=w\r\nHELP FILE=manual/index.html\r\n");
@@ -176,12 +161,10 @@ TEST_F(ConfigurationTest, KeysAndValuesAreTakenInUpperCaseAndLaterLinesWin) {
   EXPECT_NEAR(config.ellipsoidEp2, 0.00673949677548, 1e-14);
 }
 
-TEST_F(ConfigurationTest, SupportPathComesOutInCapitals) {
+// The path comes out in capitals, yet finds its folder in any case.
+TEST_F(AppFolder, SupportPathInCapitalsFindsTheFolderOfAnyCase) {
   Check("Support File Path=c:\\data\\\r\n");
   EXPECT_EQ(fake.platform.paths.supportPath, "C:\\DATA\\");
-}
-
-TEST_F(ConfigurationTest, SupportPathInCapitalsFindsTheFolderOfAnyCase) {
   app.Write("support/Contrib.dat", "x");
   const std::string missing = Check("SUPPORT FILE PATH=" + app.Path() + "/support/\r\n");
   EXPECT_EQ(fake.platform.paths.supportPath, app.Path() + "/support/");
@@ -189,7 +172,7 @@ TEST_F(ConfigurationTest, SupportPathInCapitalsFindsTheFolderOfAnyCase) {
   EXPECT_NE(missing.find("Country.dat"), std::string::npos);
 }
 
-TEST_F(ConfigurationTest, AbsentE2GivesZeroEccentricities) {
+TEST_F(AppFolder, AbsentE2GivesZeroEccentricities) {
   WriteSupportFiles();
   EXPECT_EQ(Check("ELLIPSOID A=6378206.4\r\n"), "");
   EXPECT_EQ(config.ellipsoidE2, 0.0);
@@ -198,24 +181,13 @@ TEST_F(ConfigurationTest, AbsentE2GivesZeroEccentricities) {
 
 TEST(SecondEccentricity, FailsOnTheSquareRoot) {
   EXPECT_NEAR(SecondEccentricitySquared(0.5), 1.0, 1e-15);
-  try {
-    SecondEccentricitySquared(1.0);
-    FAIL();
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.number, kDivisionByZero);
-  }
-  try {
-    SecondEccentricitySquared(1.5);
-    FAIL();
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.number, kInvalidProcedureCall);
-  }
+  EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.0); }), kDivisionByZero);
+  EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.5); }), kInvalidProcedureCall);
 }
 
 struct RecentFilesTest : ::testing::Test {
   testing::TestSession session;
   MemorySettings settings;
-  RecentFilesTest() { InitMenuState(session.menu); }
   std::vector<std::string> Visible() {
     std::vector<std::string> captions;
     for (int n = 1; n <= 8; ++n)
@@ -271,12 +243,8 @@ TEST_F(RecentFilesTest, ShorterListLeavesHigherKeysInPlace) {
   EXPECT_EQ(settings.GetSetting("MRUList", "Name5", ""), "/d/stale.dat");
 }
 
-struct CommandsTest : ::testing::Test {
-  TempFolder app;
-  FakePlatform fake{app.Path()};
-  testing::TestSession session;
+struct CommandsTest : AppFolder {
   CommandTable table = BuildCommandTable();
-  CommandsTest() { InitMenuState(session.menu); }
   void Run(const std::string& name) { table.Run(name, session, fake.platform); }
 };
 
