@@ -27,14 +27,50 @@ using testing::FakePlatform;
 using testing::Fixture;
 using testing::TempFolder;
 
-TEST(Reindex, RebuildsBehindTheProgressDialog) {
+// A folder that is the dataset's and the program's, a session and the commands.
+struct Scene {
   TempFolder folder;
-  FakePlatform fake(folder.Path());
-  const std::string landmarks = Fixture("landmarks.dat");
+  FakePlatform fake{folder.Path()};
   testing::TestSession session;
+  CommandTable table = BuildCommandTable();
+
+  void Open(const std::string& name, const std::string& text) {
+    session.dataset.DatFile = folder.Write(name, text);
+    session.dataset.DatFilePath = folder.Path() + "/";
+    SetDerivedPaths(session, folder.Path());
+    ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform));
+  }
+  void Run(const std::string& name) { table.Run(name, session, fake.platform); }
+  const std::string& Dat() const { return session.dataset.DatFile; }
+  const std::string& Ndx() const { return session.dataset.IndexFile; }
+  // Plays the user in frmSelectPoints: selects the items whose PID is listed, then Okay.
+  void SelectPids(std::vector<std::string> pids) {
+    fake.ui.modalActions.push_back([pids](DialogModel& model) {
+      auto& list = dynamic_cast<FrmSelectPoints&>(model);
+      for (std::size_t i = 0; i < list.lstPoints.size(); ++i)
+        for (const auto& pid : pids) list.selected[i] = list.selected[i] || FrmSelectPoints::PidOfItem(list.lstPoints[i]) == pid;
+      list.cmdOkay_Click();
+    });
+  }
+  // Plays the user in frmGetFile: every listed file, then OK.
+  void CombineAllInto(const std::string& target) {
+    fake.ui.fileAnswers.push_back(target);
+    fake.ui.modalActions.push_back([](DialogModel& model) {
+      auto& dialog = dynamic_cast<FrmGetFile&>(model);
+      dialog.selected.assign(dialog.files.size(), true);
+      dialog.cmdOK_Click();
+    });
+  }
+};
+
+struct DatasetCommandsTest : ::testing::Test, Scene {
+  using Scene::Run;
+};
+
+TEST_F(DatasetCommandsTest, ReindexRebuildsBehindTheProgressDialog) {
+  const std::string landmarks = Fixture("landmarks.dat");
   session.dataset.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,539 bytes
   session.dataset.IndexFile = IndexPathFor(folder.Path(), session.dataset.DatFile);
-  const CommandTable table = BuildCommandTable();
   ASSERT_TRUE(table.Has("mnuReindex"));
 
   table.Run("mnuReindex", session, fake.platform);
@@ -61,39 +97,14 @@ TEST(Reindex, NeedsADataset) {
   };
   const Case cases[] = {{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}};
   for (const auto& c : cases) {
-    TempFolder folder;
-    FakePlatform fake(folder.Path());
-    testing::TestSession session;
-    session.dataset.DatFile = c.datFile;
-    BuildCommandTable().Run("mnuReindex", session, fake.platform);
-    EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{c.message}) << c.datFile;
-    EXPECT_FALSE(fake.progress.Visible());
+    Scene s;
+    s.session.dataset.DatFile = c.datFile;
+    s.Run("mnuReindex");
+    EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{c.message}) << c.datFile;
+    EXPECT_FALSE(s.fake.progress.Visible());
   }
 }
 
-struct DatasetCommandsTest : ::testing::Test {
-  TempFolder folder;
-  FakePlatform fake{folder.Path()};
-  testing::TestSession session;
-  CommandTable table = BuildCommandTable();
-
-  void Open(const std::string& name, const std::string& text) {
-    session.dataset.DatFile = folder.Write(name, text);
-    session.dataset.DatFilePath = folder.Path() + "/";
-    SetDerivedPaths(session, folder.Path());
-    ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform));
-  }
-  void Run(const std::string& name) { table.Run(name, session, fake.platform); }
-  // Plays the user in frmSelectPoints: selects the items whose PID is listed, then Okay.
-  void SelectPids(std::vector<std::string> pids) {
-    fake.ui.modalActions.push_back([pids](DialogModel& model) {
-      auto& list = dynamic_cast<FrmSelectPoints&>(model);
-      for (std::size_t i = 0; i < list.lstPoints.size(); ++i)
-        for (const auto& pid : pids) list.selected[i] = list.selected[i] || FrmSelectPoints::PidOfItem(list.lstPoints[i]) == pid;
-      list.cmdOkay_Click();
-    });
-  }
-};
 
 TEST_F(DatasetCommandsTest, CompressDropsBlanksAndReindexes) {
   Open("blanked.dat", Fixture("blanked.dat"));
@@ -270,30 +281,6 @@ TEST_F(DatasetCommandsTest, FileIndexViewShowsTheIndexInSmallType) {
 
 std::string TooLarge(const std::string& path) { return "Path/File access error: could not write " + path + " (File too large)"; }
 
-struct Scene {
-  TempFolder folder;
-  FakePlatform fake{folder.Path()};
-  testing::TestSession session;
-  CommandTable table = BuildCommandTable();
-
-  Scene() {
-    session.dataset.DatFile = testing::CopyFixture(folder, "blanked.dat");
-    session.dataset.DatFilePath = folder.Path() + "/";
-    SetDerivedPaths(session, folder.Path());
-    EXPECT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform));
-  }
-  const std::string& Dat() const { return session.dataset.DatFile; }
-  const std::string& Ndx() const { return session.dataset.IndexFile; }
-  // Plays the user in frmGetFile: every listed file, then OK.
-  void CombineAllInto(const std::string& target) {
-    fake.ui.fileAnswers.push_back(target);
-    fake.ui.modalActions.push_back([](DialogModel& model) {
-      auto& dialog = dynamic_cast<FrmGetFile&>(model);
-      dialog.selected.assign(dialog.files.size(), true);
-      dialog.cmdOK_Click();
-    });
-  }
-};
 
 // Writes that fail half-way, as on a full disk, and datasets at the size limit: every command
 // leaves the files it would have replaced byte for byte as they were, leaves no work file behind,
@@ -343,6 +330,7 @@ TEST(WriteFailure, LeavesEveryFileAsItWasAndShowsWhy) {
   };
   for (const Case& c : cases) {
     Scene scene;
+    scene.Open("blanked.dat", Fixture("blanked.dat"));
     if (c.arrange) c.arrange(scene);
     const auto before = testing::FolderSnapshot(scene.folder.Path());
     {
@@ -375,20 +363,18 @@ std::string Sized(const TempFolder& folder, const std::string& name, std::uint64
 TEST(DatasetSizeLimit, OpeningPastTheLimitWarns) {
   const std::uint64_t lengths[] = {99'999'999, 100'000'000};
   for (const std::uint64_t length : lengths) {
-    TempFolder folder;
-    FakePlatform fake{folder.Path()};
-    testing::TestSession session;
-    session.dataset.DatFile = Sized(folder, "big.dat", length);
-    folder.Write("big.ndx", SentinelRecord(length) + "\r\n");  // a valid index: nothing is rebuilt
-    LoadDatasetIndex(session, fake.platform);
+    Scene s;
+    s.session.dataset.DatFile = Sized(s.folder, "big.dat", length);
+    s.folder.Write("big.ndx", SentinelRecord(length) + "\r\n");  // a valid index: nothing is rebuilt
+    LoadDatasetIndex(s.session, s.fake.platform);
     if (length < 100'000'000) {
-      EXPECT_TRUE(fake.ui.messages.empty()) << length;
+      EXPECT_TRUE(s.fake.ui.messages.empty()) << length;
       continue;
     }
-    ASSERT_EQ(fake.ui.messages.size(), 1u);
-    EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::Exclamation);
-    const std::string& text = fake.ui.messages[0].text;
-    EXPECT_EQ(text.rfind(session.dataset.DatFile + " is 100,000,000 bytes long; a dataset must stay below 100,000,000 bytes.", 0), 0u)
+    ASSERT_EQ(s.fake.ui.messages.size(), 1u);
+    EXPECT_EQ(s.fake.ui.messages[0].icon, MsgIcon::Exclamation);
+    const std::string& text = s.fake.ui.messages[0].text;
+    EXPECT_EQ(text.rfind(s.session.dataset.DatFile + " is 100,000,000 bytes long; a dataset must stay below 100,000,000 bytes.", 0), 0u)
         << text;
     EXPECT_NE(text.find("looking up, viewing or deleting a Description"), std::string::npos) << text;
     EXPECT_NE(text.find("Split it into smaller datasets"), std::string::npos) << text;
@@ -406,29 +392,21 @@ TEST(DatasetSizeLimit, CombineRefusesBeforeWritingAnything) {
       {"TogetherPastIt", {60'000'000, 39'999'999, 1}, "100,000,000"},
   };
   for (const Case& c : cases) {
-    TempFolder folder;
-    FakePlatform fake{folder.Path()};
-    testing::TestSession session;
-    CommandTable table = BuildCommandTable();
-    for (std::size_t i = 0; i < c.lengths.size(); ++i) Sized(folder, "in/" + std::to_string(i) + ".dat", c.lengths[i]);
-    session.dataset.DatFilePath = folder.File("in/");
-    const std::string target = folder.Write("combined.dat", "old combined\r\n");
-    fake.ui.fileAnswers.push_back(target);
-    fake.ui.modalActions.push_back([](DialogModel& model) {
-      auto& dialog = dynamic_cast<FrmGetFile&>(model);
-      dialog.selected.assign(dialog.files.size(), true);
-      dialog.cmdOK_Click();
-    });
-    table.Run("mnuCombineDat", session, fake.platform);
+    Scene s;
+    for (std::size_t i = 0; i < c.lengths.size(); ++i) Sized(s.folder, "in/" + std::to_string(i) + ".dat", c.lengths[i]);
+    s.session.dataset.DatFilePath = s.folder.File("in/");
+    const std::string target = s.folder.Write("combined.dat", "old combined\r\n");
+    s.CombineAllInto(target);
+    s.Run("mnuCombineDat");
     EXPECT_EQ(ReadWholeFile(target), "old combined\r\n") << c.name;
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 2)
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(s.folder.Path()), std::filesystem::directory_iterator()), 2)
         << c.name;  // "in" and the old combined file: no work file
-    ASSERT_EQ(fake.ui.messages.size(), 1u) << c.name;
-    EXPECT_EQ(fake.ui.messages[0].text, std::string("The dataset would be ") + c.total +
+    ASSERT_EQ(s.fake.ui.messages.size(), 1u) << c.name;
+    EXPECT_EQ(s.fake.ui.messages[0].text, std::string("The dataset would be ") + c.total +
                                             " bytes long; a dataset must stay below 100,000,000 bytes. Nothing was "
                                             "written.\r\n\r\nCombine fewer files, or split the data into datasets by county.")
         << c.name;
-    EXPECT_EQ(fake.ui.messages[0].title, "Combine .dat Files") << c.name;
+    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files") << c.name;
   }
 }
 
