@@ -96,19 +96,20 @@ INSTANTIATE_TEST_SUITE_P(
                       Golden{"empty", 1, {}}, Golden{"single", 1, {}}, Golden{"blanked", 2, {}}),
     [](const auto& info) { return std::string(info.param.name); });
 
-std::string Built(const std::string& text, const char* picture = nullptr) {
+struct IndexBuild : ::testing::Test {
   TempFolder folder;
-  const std::string dat = folder.Write("x.dat", text);
-  if (picture) folder.Write(picture, "");
-  FakePlatform fake(folder.Path());
+  FakePlatform fake{folder.Path()};
   MarkIndex index;
-  BuildMarkIndex(dat, folder.File("x.ndx"), index, fake.platform);
-  return ReadWholeFile(folder.File("x.ndx"));
-}
+  // The index file built from a dataset of `text`.
+  std::string Built(const std::string& text) {
+    BuildMarkIndex(folder.Write("x.dat", text), folder.File("x.ndx"), index, fake.platform);
+    return ReadWholeFile(folder.File("x.ndx"));
+  }
+};
 
 // What stands before the first header belongs to no Description: the first record starts at 1
 // even when a deleted Description's blanks lie there.
-TEST(BuildMarkIndex, LeadingBlanksDoNotMoveTheFirstOffset) {
+TEST_F(IndexBuild, LeadingBlanksDoNotMoveTheFirstOffset) {
   const std::string text = std::string(98, ' ') + "\r\n1      \r\n QQ0001  PID         -  QQ0001\r\n";
   const auto records = SplitCrLf(Built(text));
   ASSERT_EQ(records.size(), 3u);
@@ -118,7 +119,7 @@ TEST(BuildMarkIndex, LeadingBlanksDoNotMoveTheFirstOffset) {
 }
 
 // Lines with a PID but no header line make one Description that starts at offset 0.
-TEST(BuildMarkIndex, NoHeaderLineGivesOneRecordAtOffsetZero) {
+TEST_F(IndexBuild, NoHeaderLineGivesOneRecordAtOffsetZero) {
   const auto records = SplitCrLf(Built(" QQ0002  PID         -  QQ0002\r\n QQ0002  DESIGNATION -  LOOSE\r\n"));
   ASSERT_EQ(records.size(), 3u);
   EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0002");
@@ -128,21 +129,18 @@ TEST(BuildMarkIndex, NoHeaderLineGivesOneRecordAtOffsetZero) {
 
 // Every line counts as its length plus 2, whatever its real end: a file with bare CR ends gets
 // offsets that run ahead of the bytes.
-TEST(BuildMarkIndex, CountsEveryLineAsCrLfEnded) {
+TEST_F(IndexBuild, CountsEveryLineAsCrLfEnded) {
   const auto records = SplitCrLf(Built("1      \r QQ0003  PID         -  QQ0003\r1      \r QQ0004  PID         -  QQ0004\r"));
   ASSERT_EQ(records.size(), 4u);
   EXPECT_EQ(RecordOffset(records[1]), 1u + 9 + 32);
   EXPECT_EQ(RecordOffset(records[2]), 78u);  // the sentinel has the real length
 }
 
-TEST(BuildMarkIndex, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
-  TempFolder folder;
+TEST_F(IndexBuild, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
   const std::string dat = CopyFixture(folder, "landmarks.dat");  // 8 Descriptions
-  FakePlatform fake(folder.Path());
   fake.progress.max = 5;
   fake.progress.value = 1;
   fake.progress.Show();
-  MarkIndex index;
   BuildMarkIndex(dat, folder.File("landmarks.ndx"), index, fake.platform);
   EXPECT_EQ(fake.progress.value, 5);  // 7 header lines finish a Description; the bar stops at 5
   EXPECT_FALSE(fake.progress.Visible());
@@ -151,12 +149,9 @@ TEST(BuildMarkIndex, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
   EXPECT_EQ(values, (std::vector<int>{1, 2, 3, 4, 5, 5}));  // show, 4 steps, hide
 }
 
-TEST(BuildMarkIndex, FailureIsShownAndTheOldIndexStays) {
-  TempFolder folder;
+TEST_F(IndexBuild, FailureIsShownAndTheOldIndexStays) {
   const std::string ndx = folder.Write("gone.ndx", "old index\r\n");
-  FakePlatform fake(folder.Path());
   fake.progress.Show();
-  MarkIndex index;
   index.Set(0, "kept?");
   EXPECT_FALSE(BuildMarkIndex(folder.File("gone.dat"), ndx, index, fake.platform));
   ASSERT_EQ(fake.ui.messages.size(), 1u);
@@ -169,21 +164,15 @@ TEST(BuildMarkIndex, FailureIsShownAndTheOldIndexStays) {
 }
 
 // A dataset with the index's own name in the program's folder is never written over.
-TEST(BuildMarkIndex, NeverWritesOverTheDataset) {
-  TempFolder folder;
+TEST_F(IndexBuild, NeverWritesOverTheDataset) {
   const std::string dat = CopyFixture(folder, "single.dat");
-  FakePlatform fake(folder.Path());
-  MarkIndex index;
   EXPECT_FALSE(BuildMarkIndex(dat, dat, index, fake.platform));
   EXPECT_EQ(ReadWholeFile(dat), Fixture("single.dat"));
   EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Path/File access error"});
 }
 
-TEST(BuildMarkIndex, AnUnwritableIndexIsReported) {
-  TempFolder folder;
+TEST_F(IndexBuild, AnUnwritableIndexIsReported) {
   const std::string dat = CopyFixture(folder, "single.dat");
-  FakePlatform fake(folder.Path());
-  MarkIndex index;
   EXPECT_FALSE(BuildMarkIndex(dat, folder.File("no/such/folder.ndx"), index, fake.platform));
   ASSERT_EQ(fake.ui.messages.size(), 1u);
   EXPECT_EQ(fake.ui.messages[0].text,
