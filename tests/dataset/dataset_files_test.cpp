@@ -197,9 +197,12 @@ struct Opening {
   }
 };
 
-TEST(LoadDatasetIndex, SetsTheDerivedPaths) {
+// A missing dataset sets the derived paths and changes nothing else.
+TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
   Opening o;
-  o.Load();
+  o.session.dataset.markIndex.Assign({"previous"});
+  o.session.menu["mnuViewHcl"].enabled = false;
+  EXPECT_FALSE(o.Load());
   const std::string stem = o.data.File("landmarks");
   EXPECT_EQ(o.session.outputs.HclFile, stem + ".hcl");
   EXPECT_EQ(o.session.outputs.VclFile, stem + ".vcl");
@@ -207,13 +210,6 @@ TEST(LoadDatasetIndex, SetsTheDerivedPaths) {
   EXPECT_EQ(o.session.outputs.ErrFile, stem + ".err");
   EXPECT_EQ(o.session.outputs.SA6File, stem + "_SA6.txt");
   EXPECT_EQ(o.session.dataset.IndexFile, o.app.File("landmarks.ndx"));
-}
-
-TEST(LoadDatasetIndex, AMissingDatasetChangesNothingElse) {
-  Opening o;
-  o.session.dataset.markIndex.Assign({"previous"});
-  o.session.menu["mnuViewHcl"].enabled = false;
-  EXPECT_FALSE(o.Load());
   EXPECT_EQ(o.session.shell.caption, "Benchlog Version 1.0.0");
   EXPECT_EQ(o.session.dataset.markIndex.Elements(), std::vector<std::string>{"previous"});
   EXPECT_TRUE(o.fake.ui.messages.empty());

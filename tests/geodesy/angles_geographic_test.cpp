@@ -23,7 +23,6 @@ namespace {
 using testing::GeodesyTest;
 using testing::Grs80;
 using testing::ReadRows;
-using testing::ScriptedUi;
 using testing::Worst;
 
 double Dms(double degrees, double minutes, double seconds) {
@@ -184,7 +183,6 @@ double AngleGap(double a, double b) {
 }
 
 TEST_F(GeodesyTest, InverseOfOnePointKeepsTheCallersAzimuths) {
-  ScriptedUi ui;
   double forward = 123, back = 456, distance = -1;
   GeographicInverse(ellipsoid, RadOfDeg(38.9), RadOfDeg(77.0), RadOfDeg(38.9), RadOfDeg(77.0), forward, back, distance,
                     ui);
@@ -195,7 +193,6 @@ TEST_F(GeodesyTest, InverseOfOnePointKeepsTheCallersAzimuths) {
 }
 
 TEST_F(GeodesyTest, InverseAzimuthsOfTheCardinalDirections) {
-  ScriptedUi ui;
   const double lat = RadOfDeg(39.0), lon = RadOfDeg(77.0), step = RadOfDeg(0.01);
   double forward = -1, back = -1, distance = -1;
   GeographicInverse(ellipsoid, lat, lon, lat - step, lon, forward, back, distance, ui);  // due south
@@ -207,14 +204,12 @@ TEST_F(GeodesyTest, InverseAzimuthsOfTheCardinalDirections) {
 }
 
 TEST_F(GeodesyTest, ForwardLeavesTheBackAzimuthAlone) {
-  ScriptedUi ui;
   double lat2 = 0, lon2 = 0, back = 7.0;
   GeographicForward(ellipsoid, RadOfDeg(38.9), RadOfDeg(77.0), lat2, lon2, RadOfDeg(30.0), back, 500.0, ui);
   EXPECT_EQ(back, 7.0);
 }
 
 TEST_F(GeodesyTest, ForwardFailureShowsItsMessageAndKeepsTheOutputs) {
-  ScriptedUi ui;
   double lat2 = 11, lon2 = 22, back = 33;
   GeographicForward(ellipsoid, RadOfDeg(38.9), RadOfDeg(77.0), lat2, lon2, 0.5, back, 1e200, ui);  // s cubed overflows
   ASSERT_EQ(ui.messages.size(), 1u);
@@ -227,7 +222,6 @@ TEST_F(GeodesyTest, ForwardFailureShowsItsMessageAndKeepsTheOutputs) {
 
 TEST_F(GeodesyTest, InverseFailureShowsItsMessageAndKeepsTheOutputs) {
   ellipsoid = {6378137.0, 2.0, 0.0};  // 1 - e2 sin^2 goes negative
-  ScriptedUi ui;
   double forward = 1, back = 2, distance = 3;
   GeographicInverse(ellipsoid, RadOfDeg(80), RadOfDeg(77), RadOfDeg(80.1), RadOfDeg(77), forward, back, distance, ui);
   ASSERT_EQ(ui.messages.size(), 1u);
@@ -253,7 +247,6 @@ TEST_F(GeodesyTest, GeodeticToCartesian) {
 
 // Against GeographicLib's GeodSolve on GRS 80: lines from 1 m to 10 km all over the globe.
 TEST_F(GeodesyTest, AccuracyAgainstGeodSolve) {
-  ScriptedUi ui;
   Worst inverseDistance, inverseAzimuth, forwardShort, forwardLongTo60, beyondTangentBound;
   int unwritten = 0;
   for (const auto& r : ReadRows("geodesy/geodesic_vectors.txt", 260)) {

@@ -9,6 +9,7 @@
 
 #include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
+#include "fakes/fakes.hpp"
 #include "fakes/test_rows.hpp"
 #include "support_files/zone_table_file.hpp"
 
@@ -26,6 +27,7 @@ class GeodesyTest : public ::testing::Test {
  protected:
   Ellipsoid ellipsoid = Grs80();
   LambertZoneConstants lambert;
+  ScriptedUi ui;
 };
 
 inline std::string SupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }
