@@ -24,6 +24,8 @@ using testing::MemorySettings;
 const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
                                         "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
 
+std::vector<long> Fields(const WindowPlacement& p) { return {p.state, p.top, p.left, p.height, p.width}; }
+
 // The program's folder, with or without its configuration and support files.
 struct AppFolder : ::testing::Test {
   TempFolder app;
@@ -48,11 +50,7 @@ struct AppFolder : ::testing::Test {
 TEST_F(AppFolder, FirstRunDefaults) {
   WriteAllFiles();
   ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
-  EXPECT_EQ(placement.state, kNormal);
-  EXPECT_EQ(placement.top, 0);
-  EXPECT_EQ(placement.left, 0);
-  EXPECT_EQ(placement.height, 4000);
-  EXPECT_EQ(placement.width, 4000);
+  EXPECT_EQ(Fields(placement), (std::vector<long>{kNormal, 0, 0, 4000, 4000}));
   EXPECT_EQ(session.shell.caption, "Benchlog Version 1.0.0");
   EXPECT_EQ(session.shell.foreColor, 0u);
   EXPECT_EQ(session.shell.backColor, 16777215u);
@@ -75,11 +73,7 @@ TEST_F(AppFolder, SavedStateIsRead) {
   fake.settings.SaveSetting("Settings", "BackColor", "255");
   fake.settings.SaveSetting("MRUList", "Name1", "/x/one.dat");
   ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
-  EXPECT_EQ(placement.state, kMaximized);
-  EXPECT_EQ(placement.top, 1500);
-  EXPECT_EQ(placement.left, 300);
-  EXPECT_EQ(placement.height, 9000);
-  EXPECT_EQ(placement.width, 12000);
+  EXPECT_EQ(Fields(placement), (std::vector<long>{kMaximized, 1500, 300, 9000, 12000}));
   EXPECT_EQ(session.shell.backColor, 255u);
   EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 /x/one.dat");
 }

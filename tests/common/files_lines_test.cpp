@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
 #include <vector>
 
 #include "common/files.hpp"
-#include "common/fit.hpp"
 #include "common/line_input.hpp"
 #include "common/print_line.hpp"
 #include "fakes/temp_folder.hpp"
@@ -102,33 +100,6 @@ TEST(LineReader, ReadsIntoAStringAndFailsOnAMissingFile) {
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_EQ(FailureOf([&] { LineReader missing(folder.File("missing.dat")); }), kFileNotFound);
-}
-
-TEST(SplitCrLf, SplitsAtCrLfOnly) {
-  EXPECT_EQ(SplitCrLf("a\r\nb\r\n"), (Lines{"a", "b", ""}));
-  EXPECT_EQ(SplitCrLf(""), (Lines{""}));
-  EXPECT_EQ(SplitCrLf("a\rb\nc"), (Lines{"a\rb\nc"}));
-  EXPECT_EQ(SplitCrLf("\r\n\r\n"), (Lines{"", "", ""}));
-}
-
-TEST(PrintLine, TabMovesToTheColumnOrToItOnANewLine) {
-  struct Case { const char* name; std::function<void(PrintLine&)> build; const char* expected; };
-  const Case cases[] = {
-      {"items join", [](PrintLine& p) { p.Write("1").Write("23"); }, "123\r\n"},
-      {"tab forward", [](PrintLine& p) { p.Write("AB").Tab(5).Write("C"); }, "AB  C\r\n"},
-      {"tab to the current column", [](PrintLine& p) { p.Write("AB").Tab(3).Write("C"); }, "ABC\r\n"},
-      {"tab past", [](PrintLine& p) { p.Write("ABCDEF").Tab(3).Write("X"); }, "ABCDEF\r\n  X\r\n"},
-      {"tab back to 1", [](PrintLine& p) { p.Write("AB").Tab(1).Write("X"); }, "AB\r\nX\r\n"},
-      {"tab 0 is tab 1", [](PrintLine& p) { p.Tab(0).Write("X"); }, "X\r\n"},
-      {"tab at the end", [](PrintLine& p) { p.Write("A").Tab(4); }, "A  \r\n"},
-      {"written line end", [](PrintLine& p) { p.Write("AB\r\nC").Tab(3).Write("D"); }, "AB\r\nC D\r\n"},
-      {"empty", [](PrintLine&) {}, "\r\n"},
-  };
-  for (const auto& c : cases) {
-    PrintLine line;
-    c.build(line);
-    EXPECT_EQ(line.Finish(), c.expected) << c.name;
-  }
 }
 
 TEST(PrintLine, ColumnCountsFromOneAndFinishStartsAgain) {

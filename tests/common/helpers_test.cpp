@@ -7,8 +7,10 @@
 #include "common/dates.hpp"
 #include "common/fit.hpp"
 #include "common/format.hpp"
+#include "common/line_input.hpp"
 #include "common/number_text.hpp"
 #include "common/paths.hpp"
+#include "common/print_line.hpp"
 #include "common/rounding.hpp"
 #include "common/sort_by_column.hpp"
 #include "common/text.hpp"
@@ -64,12 +66,18 @@ const testing::CallTable kCalls = {
     {"RoundHalfEven", {1, [](const Args& a) { return Num(RoundHalfEven(std::stod(a[0]))); }}},
     {"CInt", {1, [](const Args& a) { return std::to_string(CInt(std::stod(a[0]))); }}},
     {"CLng", {1, [](const Args& a) { return std::to_string(CLng(std::stod(a[0]))); }}},
+    {"SplitCrLf", {1, [](const Args& a) { return Join(SplitCrLf(a[0]), "|"); }}},
+    {"PrintLine", {1, [](const Args& a) {
+       PrintLine line;
+       for (const auto& item : Lines(a[0])) item[0] == 'T' ? line.Tab(Size(item.substr(1))) : line.Write(item.substr(1));
+       return line.Finish();
+     }}},
     {"AddInt16", {2, [](const Args& a) {
        return std::to_string(AddInt16(static_cast<std::int16_t>(std::stoi(a[0])), static_cast<std::int16_t>(std::stoi(a[1]))));
      }}},
 };
 
-TEST(Helpers, GiveTheResultsOfTheCaseTable) { testing::CheckCalls("common/cases.txt", 247, kCalls); }
+TEST(Helpers, GiveTheResultsOfTheCaseTable) { testing::CheckCalls("common/cases.txt", 260, kCalls); }
 
 // A pattern with more places than a double has digits writes the digits, then zeros.
 TEST(Format, ThousandsOfPlaces) {

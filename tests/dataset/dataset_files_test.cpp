@@ -118,7 +118,6 @@ TEST_F(IndexBuild, LeadingBlanksDoNotMoveTheFirstOffset) {
   EXPECT_EQ(RecordOffset(records[1]), text.size());
 }
 
-// Lines with a PID but no header line make one Description that starts at offset 0.
 TEST_F(IndexBuild, NoHeaderLineGivesOneRecordAtOffsetZero) {
   const auto records = SplitCrLf(Built(" QQ0002  PID         -  QQ0002\r\n QQ0002  DESIGNATION -  LOOSE\r\n"));
   ASSERT_EQ(records.size(), 3u);
@@ -197,7 +196,6 @@ struct Opening {
   }
 };
 
-// A missing dataset sets the derived paths and changes nothing else.
 TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
   Opening o;
   o.session.dataset.markIndex.Assign({"previous"});
@@ -495,28 +493,15 @@ TEST(BlankDescription, Failures) {
 }
 
 TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
-  struct Case {
-    const char* name;
-    std::string before, after;
-  };
-  const Case cases[] = {
-      {"blank lines go", "1      \r\n   \r\n AB1 x\r\n\r\n", "1\r\n AB1 x\r\n"},
-      {"trailing blanks go, leading stay", "  lead  \r\n    \r\n", "  lead\r\n"},
-      {"stray LFs go, inside and alone", " A\nB\r\n\n\r\n\n", " AB\r\n"},
-      {"a bare CR ends a line", " one\r two", " one\r\n two\r\n"},
-      {"no blank lines: only trailing blanks change", " a \r\n b\r\n", " a\r\n b\r\n"},
-      {"all blank", "     \r\n  \r\n", ""},
-      {"empty", "", ""},
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : testing::ReadRows("dataset/compress_cases.txt", 7, '|')) {
     TempFolder folder;
-    const std::string dat = folder.Write("d.dat", c.before);
+    const std::string dat = folder.Write("d.dat", c[1]);
     FakePlatform fake(folder.Path());
-    EXPECT_EQ(CompressDataset(dat, fake.platform), "") << c.name;
-    EXPECT_EQ(ReadWholeFile(dat), c.after) << c.name;
+    EXPECT_EQ(CompressDataset(dat, fake.platform), "") << c[0];
+    EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0];
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 1)
-        << c.name;  // no work file stays
-    EXPECT_TRUE(fake.ui.messages.empty()) << c.name;
+        << c[0];  // no work file stays
+    EXPECT_TRUE(fake.ui.messages.empty()) << c[0];
   }
 }
 
