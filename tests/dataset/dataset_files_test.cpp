@@ -349,30 +349,18 @@ TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
 }
 
 // Both layouts of the array give the same spans where the records have their full width, since
-// an empty element only adds one blank. AB1236's position line is cut short, so its record is 22
-// characters short: the look-up reads AB1235's end and AB1236's offset out of AB1237's columns.
+// an empty element only adds one blank.
 TEST(MarkLookup, SpansInBothLayouts) {
   testing::TempFolder folder;
   testing::FakePlatform fake(folder.Path());
   MarkIndex built, loaded;
   BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), built, fake.platform);
   LoadIndexFile(folder.File("l.ndx"), loaded);
-  struct Case {
-    const char* pid;
-    std::int64_t builtStart, builtNext, loadedStart, loadedNext;
-  };
-  const Case cases[] = {
-      {"AB1234", 1, 2235, 1, 2235},
-      {"AB1235", 2235, 473605, 2235, 473605},  // " 47 36 05." of AB1237's latitude
-      {"AB1236", 247360, 0, 473605, 0},        // "2 47 36 0" built (two blanks), " 47 36 05" loaded
-      {"AB1237", 3949, 4898, 3949, 4898},      // the sentinel ends the last
-      {"", 1, 2235, 1, 2235},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(LocateMark(built, c.pid).start, c.builtStart) << c.pid;
-    EXPECT_EQ(LocateMark(built, c.pid).next, c.builtNext) << c.pid;
-    EXPECT_EQ(LocateMark(loaded, c.pid).start, c.loadedStart) << c.pid;
-    EXPECT_EQ(LocateMark(loaded, c.pid).next, c.loadedNext) << c.pid;
+  for (const auto& c : testing::ReadRows("dataset/lookup_cases.txt", 5, '|')) {
+    EXPECT_EQ(LocateMark(built, c[0]).start, std::stoll(c[1])) << c[0];
+    EXPECT_EQ(LocateMark(built, c[0]).next, std::stoll(c[2])) << c[0];
+    EXPECT_EQ(LocateMark(loaded, c[0]).start, std::stoll(c[3])) << c[0];
+    EXPECT_EQ(LocateMark(loaded, c[0]).next, std::stoll(c[4])) << c[0];
   }
 }
 
@@ -463,23 +451,13 @@ std::string Rec(const char* pid, std::uint64_t offset) {
 }
 
 TEST(BlankDescription, ShortSpansAndAZeroOffset) {
-  struct Case {
-    std::uint64_t start, next;
-    const char* expected;
-  };
-  const Case cases[] = {
-      {10, 12, "abcdefghijklmnopqrst"},      // 2 bytes: left alone
-      {10, 11, "abcdefghijklmnopqrst"},      // 1 byte
-      {10, 13, "abcdefghi \r\nmnopqrst"},    // 3 bytes: one blank and CR LF
-      {0, 5, "  \r\nefghijklmnopqrst"},      // offset 0 counts as 1
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : testing::ReadRows("dataset/blank_cases.txt", 4, '|')) {
     TempFolder folder;
     const std::string dat = folder.Write("t.dat", "abcdefghijklmnopqrst");
     MarkIndex index;
-    index.Assign({Rec("PP0001", c.start), Rec("PP0002", c.next), SentinelRecord(20), ""});
+    index.Assign({Rec("PP0001", std::stoull(c[0])), Rec("PP0002", std::stoull(c[1])), SentinelRecord(20), ""});
     EXPECT_EQ(BlankDescription(index, dat, "PP0001"), "");
-    EXPECT_EQ(ReadWholeFile(dat), c.expected) << c.start << ".." << c.next;
+    EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0] << ".." << c[1];
   }
 }
 
