@@ -134,9 +134,7 @@ TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
   EXPECT_EQ(session.dataset.IndexFile, folder.File("fresh.ndx"));
   EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatFullName", ""), folder.File("fresh.dat"));
   EXPECT_FALSE(FileExists(folder.File("fresh.dat")));
-  EXPECT_FALSE(session.menu["mnuViewHcl"].enabled);
-  EXPECT_FALSE(session.menu["mnuViewVcl"].enabled);
-  EXPECT_FALSE(session.menu["mnuViewError"].enabled);
+  for (const char* view : {"mnuViewHcl", "mnuViewVcl", "mnuViewError"}) EXPECT_FALSE(session.menu[view].enabled) << view;
   EXPECT_TRUE(session.menu["mnuTools"].enabled);
   EXPECT_EQ(session.dataset.markIndex.Elements(), before);  // the old records stay until the next build
 }

@@ -116,13 +116,6 @@ TEST(Angles, ArcSinCoversTheWholeLine) {
   for (const auto& c : cases) EXPECT_DOUBLE_EQ(ArcSin(c.x), c.expected) << c.x;
 }
 
-TEST(Angles, HyperbolicFunctions) {
-  EXPECT_EQ(SinH(0.0), 0.0);
-  EXPECT_EQ(CosH(0.0), 1.0);
-  EXPECT_DOUBLE_EQ(SinH(1.0), 1.1752011936438014);
-  EXPECT_DOUBLE_EQ(CosH(1.0), 1.5430806348152437);
-}
-
 TEST(Angles, AzDistQuadrants) {
   const double quarter = std::atan(1.0);
   struct Case { double a, b, angle, distance; };
