@@ -198,9 +198,8 @@ TEST_F(RecentFilesTest, EmptyListHidesEntriesAndSeparator) {
 }
 
 TEST_F(RecentFilesTest, LoadKeepsNonEmptyNamesInOrder) {
-  settings.SaveSetting("MRUList", "Name1", "/d/a.dat");
-  settings.SaveSetting("MRUList", "Name2", "");
-  settings.SaveSetting("MRUList", "Name3", "/d/c.dat");
+  for (const auto& [key, name] : {std::pair{"Name1", "/d/a.dat"}, {"Name2", ""}, {"Name3", "/d/c.dat"}})
+    settings.SaveSetting("MRUList", key, name);
   LoadMRUList(session, settings);
   EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat"}));
   EXPECT_EQ(Visible(), (std::vector<std::string>{"&1 /d/a.dat", "&2 /d/c.dat"}));
@@ -226,9 +225,8 @@ TEST_F(RecentFilesTest, ReopenedFileMovesToTopInItsNewForm) {
 }
 
 TEST_F(RecentFilesTest, ShorterListLeavesHigherKeysInPlace) {
-  settings.SaveSetting("MRUList", "Name1", "/d/a.dat");
-  settings.SaveSetting("MRUList", "Name2", "/d/b.dat");
-  settings.SaveSetting("MRUList", "Name5", "/d/stale.dat");
+  for (const auto& [key, name] : {std::pair{"Name1", "/d/a.dat"}, {"Name2", "/d/b.dat"}, {"Name5", "/d/stale.dat"}})
+    settings.SaveSetting("MRUList", key, name);
   LoadMRUList(session, settings);  // Name5 is read as the third entry
   AddToMRUList(session, settings, "/d/b.dat");
   EXPECT_EQ(settings.GetSetting("MRUList", "Name1", ""), "/d/b.dat");

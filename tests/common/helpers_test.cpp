@@ -24,8 +24,8 @@ namespace {
 using Args = testing::CallArgs;
 
 std::string Num(double value) {
-  char text[64];
-  return std::string(text, std::to_chars(text, text + sizeof text, value + 0.0, std::chars_format::fixed).ptr);  // + 0.0: no "-0"
+  char text[64];  // + 0.0: no "-0"
+  return std::string(text, std::to_chars(text, text + sizeof text, value + 0.0, std::chars_format::fixed).ptr);
 }
 std::string Bool(bool value) { return value ? "1" : "0"; }
 std::size_t Size(const std::string& text) { return std::stoul(text); }
@@ -73,7 +73,8 @@ const testing::CallTable kCalls = {
        return line.Finish();
      }}},
     {"AddInt16", {2, [](const Args& a) {
-       return std::to_string(AddInt16(static_cast<std::int16_t>(std::stoi(a[0])), static_cast<std::int16_t>(std::stoi(a[1]))));
+       const auto Int16 = [](const std::string& text) { return static_cast<std::int16_t>(std::stoi(text)); };
+       return std::to_string(AddInt16(Int16(a[0]), Int16(a[1])));
      }}},
 };
 

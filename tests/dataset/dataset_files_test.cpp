@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <tuple>
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
@@ -189,11 +191,6 @@ struct Opening {
     session.shell.caption = "Benchlog Version 1.0.0";
   }
   bool Load() { return LoadDatasetIndex(session, fake.platform); }
-  bool ProgressWasShown() const {
-    for (const auto& p : fake.progressHistory)
-      if (p.Visible()) return true;
-    return false;
-  }
 };
 
 TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
@@ -256,7 +253,9 @@ TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
     CopyFixture(o.data, "landmarks.dat");
     o.app.Write("landmarks.ndx", c.index);
     EXPECT_EQ(o.Load(), c.rebuilt) << c.name;
-    EXPECT_FALSE(o.ProgressWasShown()) << c.name;
+    EXPECT_TRUE(std::none_of(o.fake.progressHistory.begin(), o.fake.progressHistory.end(),
+                             [](const Progress& p) { return p.Visible(); }))
+        << c.name;
     EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << c.name;
     const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
     EXPECT_EQ(onDisk, c.rebuilt ? Fixture("landmarks.ndx") : c.index) << c.name;
@@ -380,17 +379,12 @@ struct Landmarks {
 
 TEST(GetDescription, ReadsTheSpanBetweenTwoOffsets) {
   Landmarks data;
-  struct Case {
-    const char* pid;
-    int description;
-    std::size_t shortBy;
-  };
-  // The last Description ends at the dataset's length, one byte short of its final LF.
-  const Case cases[] = {{"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}};
-  for (const auto& c : cases) {
+  // PID, Description, bytes short: the last ends at the dataset's length, one byte short of its final LF.
+  const std::tuple<const char*, int, std::size_t> cases[] = {{"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}};
+  for (const auto& [pid, description, shortBy] : cases) {
     std::string text;
-    EXPECT_EQ(GetDescription(data.index, data.dat, c.pid, text), "") << c.pid;
-    EXPECT_EQ(text, data.Span(c.description, c.shortBy)) << c.pid;
+    EXPECT_EQ(GetDescription(data.index, data.dat, pid, text), "") << pid;
+    EXPECT_EQ(text, data.Span(description, shortBy)) << pid;
   }
   std::string text;
   GetDescription(data.index, data.dat, "CD0008", text);
@@ -419,23 +413,19 @@ TEST(GetDescription, FailuresAndSilentCases) {
 }
 
 TEST(BlankDescription, OverwritesTheSpanAndKeepsTheLength) {
-  struct Case {
-    const char* pid;
-    int description;
-    std::size_t span;  // bytes written: blanks and CR LF
-  };
-  const Case cases[] = {
+  // PID, Description, bytes written (blanks and CR LF)
+  const std::tuple<const char*, int, std::size_t> cases[] = {
       {"CD0004", 3, 481},
       {"CD0001", 0, 466},
       {"", 0, 466},        // an empty PID is found at the start: the first Description goes
       {"CD0008", 7, 422},  // the last: one byte short, so its final LF stays behind the CR LF
   };
-  for (const auto& c : cases) {
+  for (const auto& [pid, description, span] : cases) {
     Landmarks data;
-    EXPECT_EQ(BlankDescription(data.index, data.dat, c.pid), "") << c.pid;
+    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
     std::string expected = data.original;
-    expected.replace(kOffsets[c.description] - 1, c.span, std::string(c.span - 2, ' ') + "\r\n");
-    EXPECT_EQ(ReadWholeFile(data.dat), expected) << c.pid;
+    expected.replace(kOffsets[description] - 1, span, std::string(span - 2, ' ') + "\r\n");
+    EXPECT_EQ(ReadWholeFile(data.dat), expected) << pid;
   }
   Landmarks data;
   BlankDescription(data.index, data.dat, "CD0008");

@@ -82,7 +82,8 @@ inline void CheckCalls(const std::string& name, std::size_t expectedRows, const 
     } catch (const RuntimeFailure& failure) {
       actual = "failure " + std::to_string(failure.number);
     }
-    EXPECT_EQ(actual, JoinFields(end, row.end(), "|")) << row[0] << "(\"" << JoinFields(row.begin() + 1, end, "\", \"") << "\")";
+    EXPECT_EQ(actual, JoinFields(end, row.end(), "|"))
+        << row[0] << "(\"" << JoinFields(row.begin() + 1, end, "\", \"") << "\")";
     ++used[row[0]];
   }
   EXPECT_EQ(used.size(), calls.size()) << name;

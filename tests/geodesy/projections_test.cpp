@@ -4,6 +4,7 @@
 #include <map>
 
 #include "common/runtime_failure.hpp"
+#include "common/test_support.hpp"
 #include "common/text.hpp"
 #include "fakes/temp_folder.hpp"
 #include "geodesy/angles.hpp"
@@ -314,12 +315,7 @@ TEST_F(ZoneLookup, FirstLineWhoseKeyOrNumberMatches) {
 
 TEST_F(ZoneLookup, MissingTableIsTheFileError) {
   std::string line;
-  try {
-    FindZoneLine("AAAAA", "", line, folder_.Path() + "/absent/");
-    FAIL() << "no failure";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.number, kFileNotFound);
-  }
+  EXPECT_EQ(FailureOf([&] { FindZoneLine("AAAAA", "", line, folder_.Path() + "/absent/"); }), kFileNotFound);
 }
 
 // Grid feet come from the unit of each zone's feet, as its state defines them.

@@ -85,10 +85,6 @@ TEST(Contributors, SizeGroupAndCodeByFolder) {
   EXPECT_EQ(ContributorCode(testing::TestData("support/"), "us coastal control office"), "CCO");
 }
 
-ContributorTable CommittedTable() {
-  return ContributorTable::Load(testing::SourceSupport() + kContributorsFileName);
-}
-
 TEST(CommittedContributors, CodesFitSixColumnsAndGroupsAreKnown) {
   std::set<std::string> groups;
   LineReader groupsFile(testing::SourceSupport() + "Groups.dat");
@@ -116,7 +112,7 @@ std::string AdjustingAgency(const std::vector<std::string>& lines, std::size_t i
 }
 
 TEST(CommittedContributors, ResolveEveryAgencyOfTheSampleNotes) {
-  const auto table = CommittedTable();
+  const auto table = ContributorTable::Load(testing::SourceSupport() + kContributorsFileName);
   std::size_t headers = 0, phrases = 0;
   for (const auto& description : test::ReadSampleDataset()) {
     const auto& lines = description.lines;
