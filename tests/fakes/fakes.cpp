@@ -3,7 +3,6 @@
 #include <stdexcept>
 
 #include "app/menu_tree.hpp"
-#include "common/files.hpp"
 #include "common/runtime_failure.hpp"
 
 namespace benchlog::testing {
@@ -20,12 +19,6 @@ void MemorySettings::SaveSetting(const std::string& section, const std::string& 
 
 bool MemorySettings::Has(const std::string& section, const std::string& key) const {
   return values.count(section + "/" + key) != 0;
-}
-
-bool RecordingShell::MoveToTrash(const std::string& path) {
-  trashed.push_back(path);
-  DeleteFileIfExists(path);
-  return true;
 }
 
 namespace {
@@ -59,10 +52,6 @@ std::optional<std::uint32_t> ScriptedUi::ColorDialog(const std::string& title, s
   colorTitles.push_back(title);
   return Next(colorAnswers, "colour dialog \"" + title + "\"");
 }
-
-std::optional<FontChoice> ScriptedUi::FontDialog(const FontChoice&) { return Next(fontAnswers, "font dialog"); }
-
-bool ScriptedUi::PrinterDialog() { return Next(printerAnswers, "printer dialog"); }
 
 void ScriptedUi::ShowModal(DialogModel& model) {
   modals.push_back(&model);

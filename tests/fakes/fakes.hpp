@@ -1,9 +1,11 @@
 #pragma once
 // Test doubles of the platform services: a Ui that answers from scripts and records what it was
-// asked, an in-memory settings store, a manual clock and a shell that only records.
+// asked, an in-memory settings store, a manual clock and a shell that only records. Dialogs that no
+// command shows fail when asked.
 #include <deque>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -38,10 +40,9 @@ class RecordingShell final : public Shell {
     opened.push_back(path);
     return true;
   }
-  bool MoveToTrash(const std::string& path) override;
-  bool RunSystemInformation() override { return hasSystemInformation; }
-  bool hasSystemInformation = false;
-  std::vector<std::string> opened, trashed;
+  bool MoveToTrash(const std::string&) override { throw std::logic_error("RecordingShell: no trash expected"); }
+  bool RunSystemInformation() override { return false; }
+  std::vector<std::string> opened;
 };
 
 // Answers come from queues, filled by the test before the command runs. A question with no
@@ -53,8 +54,8 @@ class ScriptedUi final : public Ui {
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
   std::string FileDialog(const FileDialogRequest& request) override;  // "" in the queue means cancel
   std::optional<std::uint32_t> ColorDialog(const std::string& title, std::uint32_t initial) override;
-  std::optional<FontChoice> FontDialog(const FontChoice& initial) override;
-  bool PrinterDialog() override;
+  std::optional<FontChoice> FontDialog(const FontChoice&) override { throw std::logic_error("ScriptedUi: no font dialog"); }
+  bool PrinterDialog() override { throw std::logic_error("ScriptedUi: no printer dialog"); }
   void ShowHelp(const std::string& helpFile) override { helpShown.push_back(helpFile); }
   void SetHourglass(bool on) override { hourglass = on; }
   void DoEvents() override { ++doEventsCalls; }
@@ -67,8 +68,6 @@ class ScriptedUi final : public Ui {
   std::deque<std::string> inputAnswers;
   std::deque<std::string> fileAnswers;
   std::deque<std::optional<std::uint32_t>> colorAnswers;
-  std::deque<std::optional<FontChoice>> fontAnswers;
-  std::deque<bool> printerAnswers;
   std::deque<std::function<void(DialogModel&)>> modalActions;  // each plays the user in one dialog
 
   // Records.

@@ -5,13 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
-#include <sstream>
 #include <string>
-#include <vector>
 
 #include "geodesy/ellipsoid.hpp"
 #include "geodesy/lambert.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/test_rows.hpp"
+#include "support_files/zone_table_file.hpp"
 
 namespace benchlog::testing {
 
@@ -27,31 +27,23 @@ class GeodesyTest : public ::testing::Test {
  protected:
   Ellipsoid ellipsoid = Grs80();
   LambertZoneConstants lambert;
+  ScriptedUi ui;
 };
 
 inline std::string SupportPath() { return std::string(BENCHLOG_SOURCE_DIR) + "/support/"; }
 
-// The fields of each data line of tests/data/geodesy/`name` ("#" lines are comments), split at
-// `separator`, or at runs of blanks when it is ' '. Fails the test unless there are `expectedRows`
-// lines, so that an empty or cut file cannot pass.
-inline std::vector<std::vector<std::string>> ReadRows(const std::string& name, std::size_t expectedRows,
-                                                      char separator = ' ') {
-  std::ifstream in(std::string(BENCHLOG_TEST_DATA) + "/geodesy/" + name);
-  std::vector<std::vector<std::string>> rows;
-  for (std::string line; std::getline(in, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    std::istringstream fields(line);
-    std::vector<std::string> row;
-    if (separator == ' ') {
-      for (std::string field; fields >> field;) row.push_back(field);
-    } else {
-      for (std::string field; std::getline(fields, field, separator);) row.push_back(field);
-    }
-    rows.push_back(row);
-  }
-  EXPECT_EQ(rows.size(), expectedRows) << name;
-  return rows;
+// The committed zone table's line for `key`.
+inline std::string Zone(const std::string& key) {
+  std::string line;
+  FindZoneLine(key, "", line, SupportPath());
+  return line;
 }
+
+// A projection's outputs, -1 until written.
+struct Grid {
+  double north = -1, east = -1, convergence = -1, scale = -1;
+  bool Untouched() const { return north == -1 && east == -1 && convergence == -1 && scale == -1; }
+};
 
 // Largest error seen, with the case that gave it.
 struct Worst {

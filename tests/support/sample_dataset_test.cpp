@@ -6,7 +6,7 @@
 #include "common/files.hpp"
 #include "common/text.hpp"
 #include "sample_lines.hpp"
-#include "fakes/test_paths.hpp"
+#include "fakes/test_rows.hpp"
 #include "support_files/country_file.hpp"
 
 namespace benchlog {
@@ -72,20 +72,7 @@ TEST(SampleDataset, CoversTheKindsOfMarksAndLines) {
       if (InStr(line, "established by GPS")) ++seen["by GPS"];
     }
   }
-  for (const char* key : {"CORS ", "FBN ", "CBN ", "HT_MOD ", "PACS ", "SACS ", "long position", "position",
-                          "height", "box RM", "box approx", "superseded", "horizontal", "vertical class", "posted",
-                          "adjusted phrase", "by GPS"}) {
-    EXPECT_GT(seen[key], 0) << key;
-  }
-  for (const char* source : {"ADJUSTED", "SCALED", "HD_HELD1", "HD_HELD2", "GPS HAND HELD 1", "GPS HAND HELD 2",
-                             "POSTED", "RESET", "VERTCON", "GPS OBS", "VERT ANG", "LEVELING", "N HEIGHT", "U HEIGHT",
-                             "READJUST", "ADJ UNCH", "COMPUTED"}) {
-    EXPECT_GT(seen[std::string("source ") + source], 0) << source;
-  }
-  for (const char* condition : {"FIRST OBSERVED", "MONUMENTED", "GOOD", "POOR", "NOT RECOVERED", "DESTROYED",
-                                "SEE DESCRIPTION", "MARK NOT FOUND", "OTHER"}) {
-    EXPECT_GT(seen[std::string("condition ") + condition], 0) << condition;
-  }
+  for (const auto& row : testing::ReadRows("support/sample_kinds.txt", 43, '|')) EXPECT_GT(seen[row[0]], 0) << row[0];
 }
 
 TEST(SampleDataset, CountiesAreInTheCountryFileAndPhotosLieBeside) {

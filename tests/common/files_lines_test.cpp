@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <vector>
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
+#include "common/print_line.hpp"
 #include "fakes/temp_folder.hpp"
 #include "test_support.hpp"
 
@@ -11,9 +13,45 @@ namespace benchlog {
 namespace {
 
 using testing::TempFolder;
-
+namespace fs = std::filesystem;
 using namespace std::string_literals;
 using Lines = std::vector<std::string>;
+
+TEST(Files, WriteAppendAndReadAreByteExact) {
+  TempFolder folder;
+  const std::string path = folder.File("a.dat");
+  WriteWholeFile(path, "A\0\xE9\r\n"s);
+  AppendToFile(path, "B\n");
+  EXPECT_EQ(ReadWholeFile(path), "A\0\xE9\r\nB\n"s);
+  EXPECT_EQ(FileLength(path), 7u);
+  WriteWholeFile(path, "");
+  EXPECT_EQ(FileLength(path), 0u);
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_FALSE(FileExists(folder.File("")));  // the folder itself is no file
+}
+
+TEST(Files, AMissingFileIsFileNotFound) {
+  TempFolder folder;
+  const std::string missing = folder.File("missing.dat");
+  EXPECT_EQ(FailureOf([&] { FileLength(missing); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { ReadWholeFile(missing); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { ReadWholeFile(folder.File("")); }), kFileNotFound);
+  EXPECT_FALSE(FileExists(missing));
+  EXPECT_NO_THROW(DeleteFileIfExists(missing));
+}
+
+TEST(Files, IsReadOnlyWhenTheFileCannotBeWritten) {
+  TempFolder folder;
+  const std::string path = folder.File("a.dat");
+  EXPECT_FALSE(IsReadOnly(path));  // missing
+  WriteWholeFile(path, "x");
+  EXPECT_FALSE(IsReadOnly(path));
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  EXPECT_TRUE(IsReadOnly(path));  // also for a user who could write it anyway
+  fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+  EXPECT_FALSE(IsReadOnly(path));
+}
+
 constexpr std::size_t kBuffer = LineReader::kBufferSize;
 
 Lines ReadAll(const std::string& path) {
@@ -64,11 +102,13 @@ TEST(LineReader, ReadsIntoAStringAndFailsOnAMissingFile) {
   EXPECT_EQ(FailureOf([&] { LineReader missing(folder.File("missing.dat")); }), kFileNotFound);
 }
 
-TEST(SplitCrLf, SplitsAtCrLfOnly) {
-  EXPECT_EQ(SplitCrLf("a\r\nb\r\n"), (Lines{"a", "b", ""}));
-  EXPECT_EQ(SplitCrLf(""), (Lines{""}));
-  EXPECT_EQ(SplitCrLf("a\rb\nc"), (Lines{"a\rb\nc"}));
-  EXPECT_EQ(SplitCrLf("\r\n\r\n"), (Lines{"", "", ""}));
+TEST(PrintLine, ColumnCountsFromOneAndFinishStartsAgain) {
+  PrintLine line;
+  EXPECT_EQ(line.Write("ABC").Column(), 4u);
+  EXPECT_EQ(line.Tab(2).Column(), 2u);
+  line.Finish();
+  EXPECT_EQ(line.Column(), 1u);
+  EXPECT_EQ(line.Write("Z").Finish(), "Z\r\n");
 }
 
 }  // namespace

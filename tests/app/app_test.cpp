@@ -1,0 +1,381 @@
+#include <gtest/gtest.h>
+
+#include "app/app_commands.hpp"
+#include "app/command_registry.hpp"
+#include "app/configuration_file.hpp"
+#include "app/demo_dataset.hpp"
+#include "app/frm_about.hpp"
+#include "app/main_window.hpp"
+#include "app/menu_tree.hpp"
+#include "app/recent_files.hpp"
+#include "common/files.hpp"
+#include "common/runtime_failure.hpp"
+#include "common/test_support.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
+
+namespace benchlog {
+namespace {
+
+using testing::FakePlatform;
+using testing::TempFolder;
+using testing::MemorySettings;
+
+const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
+                                        "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
+
+std::vector<long> Fields(const WindowPlacement& p) { return {p.state, p.top, p.left, p.height, p.width}; }
+
+// The program's folder, with or without its configuration and support files.
+struct AppFolder : ::testing::Test {
+  TempFolder app;
+  FakePlatform fake{app.Path()};
+  testing::TestSession session;
+  WindowPlacement placement;
+  Configuration config;
+
+  void WriteSupportFiles() {
+    for (const char* name : kAllSupportFiles) app.Write(name, "x");
+  }
+  void WriteAllFiles() {
+    app.Write("Benchlog.ini", "ELLIPSOID A=6378137\r\nELLIPSOID E2=0.00669438002290\r\n");
+    WriteSupportFiles();
+  }
+  std::string Check(const std::string& ini) {
+    app.Write("Benchlog.ini", ini);
+    return CheckLoadFiles(fake.platform, config);
+  }
+};
+
+TEST_F(AppFolder, FirstRunDefaults) {
+  WriteAllFiles();
+  ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
+  EXPECT_EQ(Fields(placement), (std::vector<long>{kNormal, 0, 0, 4000, 4000}));
+  EXPECT_EQ(session.shell.caption, "Benchlog Version 1.0.0");
+  EXPECT_EQ(session.shell.foreColor, 0u);
+  EXPECT_EQ(session.shell.backColor, 16777215u);
+  EXPECT_EQ(session.config.helpFile, app.Path() + "/Benchlog.chm");
+  EXPECT_TRUE(session.dataset.DatFile.empty());
+  EXPECT_FALSE(session.menu["mnuLatLoninTxt"].visible);
+  EXPECT_TRUE(session.menu["mnuExport"].visible);
+  EXPECT_TRUE(session.menu["mnuExport"].enabled);
+  EXPECT_TRUE(fake.ui.messages.empty());
+  // The configured ellipsoid, which the export reads.
+  EXPECT_DOUBLE_EQ(session.config.ellipsoidA, 6378137.0);
+  EXPECT_DOUBLE_EQ(session.config.ellipsoidE2, 0.00669438002290);
+}
+
+TEST_F(AppFolder, SavedStateIsRead) {
+  WriteAllFiles();
+  for (const auto& [key, value] : {std::pair{"WindowState", "2"}, {"Top", "1500"}, {"Left", "300"}, {"Height", "9000"},
+                                    {"Width", "12000"}})
+    fake.settings.SaveSetting("frmMain", key, value);
+  fake.settings.SaveSetting("Settings", "BackColor", "255");
+  fake.settings.SaveSetting("MRUList", "Name1", "/x/one.dat");
+  ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
+  EXPECT_EQ(Fields(placement), (std::vector<long>{kMaximized, 1500, 300, 9000, 12000}));
+  EXPECT_EQ(session.shell.backColor, 255u);
+  EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 /x/one.dat");
+}
+
+TEST_F(AppFolder, MissingFilesEndTheProgramWithACriticalBox) {
+  app.Write("Benchlog.ini", "ELLIPSOID E2=0.0067\r\n");
+  EXPECT_FALSE(LoadMainWindow(session, fake.platform, placement));
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  const auto& box = fake.ui.messages[0];
+  EXPECT_EQ(box.icon, MsgIcon::Critical);
+  EXPECT_EQ(box.title, "Benchlog");
+  EXPECT_EQ(box.text,
+            "The following files were not found:\r\nContrib.dat\r\nCountry.dat\r\nGroups.dat\r\n"
+            "Monument_Category.dat\r\nZones.txt\r\nHorizontal_Datum.dat\r\nEllipsoid.dat\r\nTowns.txt\r\n");
+}
+
+TEST_F(AppFolder, FailingEccentricityIsIgnoredAndSkipsTheFileTest) {
+  // E2 of 1 fails before the support files are tested, and the load goes on without a word.
+  app.Write("Benchlog.ini", "ELLIPSOID E2=1\r\n");
+  EXPECT_TRUE(LoadMainWindow(session, fake.platform, placement));
+  EXPECT_TRUE(fake.ui.messages.empty());
+  EXPECT_EQ(session.config.ellipsoidEp2, 0.0);
+}
+
+TEST(ClosingStep, SavesPositionOnlyInTheNormalState) {
+  testing::MemorySettings settings;
+  SaveMainWindowPlacement(settings, {kNormal, 150, 300, 6000, 8000});
+  EXPECT_EQ(settings.GetSetting("frmMain", "WindowState", ""), "0");
+  // Closed maximised: the last normal geometry stays, the state says maximised.
+  SaveMainWindowPlacement(settings, {kMaximized, 0, 0, 12000, 16000});
+  for (const auto& [key, value] : {std::pair{"Top", "150"}, {"Left", "300"}, {"Height", "6000"}, {"Width", "8000"},
+                                    {"WindowState", "2"}})
+    EXPECT_EQ(settings.GetSetting("frmMain", key, ""), value) << key;
+}
+
+TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
+  testing::MemorySettings settings;
+  testing::ManualClock clock;
+  EXPECT_EQ(SplashSeconds(settings), 5);
+  WaitForSplash(clock, SplashSeconds(settings));
+  EXPECT_EQ(clock.slept, std::chrono::seconds(5));
+
+  settings.SaveSetting("frmMain", "Top", "0");  // any saved value counts, even 0
+  EXPECT_EQ(SplashSeconds(settings), 2);
+  clock.slept = {};
+  WaitForSplash(clock, SplashSeconds(settings));
+  EXPECT_EQ(clock.slept, std::chrono::seconds(2));
+}
+
+TEST_F(AppFolder, MissingConfigurationReportsOnlyItself) {
+  // No support file exists either, yet only the configuration file is named.
+  EXPECT_EQ(CheckLoadFiles(fake.platform, config), "Benchlog.ini\r\n");
+  EXPECT_EQ(fake.platform.paths.supportPath, app.Path() + "/");
+}
+
+TEST_F(AppFolder, MissingSupportFilesAreListedInTestOrder) {
+  app.Write("Groups.dat", "x");
+  app.Write("Towns.txt", "x");
+  EXPECT_EQ(Check("ELLIPSOID E2=0.00669438002290\r\n"),
+            "Contrib.dat\r\nCountry.dat\r\nMonument_Category.dat\r\nZones.txt\r\nHorizontal_Datum.dat\r\n"
+            "Ellipsoid.dat\r\n");
+  WriteSupportFiles();
+  EXPECT_EQ(Check("ELLIPSOID E2=0.00669438002290\r\n"), "");
+}
+
+TEST_F(AppFolder, KeysAndValuesAreTakenInUpperCaseAndLaterLinesWin) {
+  WriteSupportFiles();
+  Check("country=us\r\nState=md\r\nSTATE=va\r\nELLIPSOID A=6378137\r\nellipsoid e2=0.00669438002290\r\n"
+        "Units=Meters\r\nno equals sign\r\n=orphan value\r\nHEMI1=n\r\nHEMI2=w\r\nHELP FILE=manual/index.html\r\n");
+  EXPECT_EQ(config.country, "US");
+  EXPECT_EQ(config.state, "VA");
+  EXPECT_EQ(config.units, "METERS");
+  EXPECT_EQ(config.hemi1, "N");
+  EXPECT_EQ(config.hemi2, "W");
+  EXPECT_EQ(config.helpFile, "MANUAL/INDEX.HTML");
+  EXPECT_DOUBLE_EQ(config.ellipsoidA, 6378137.0);
+  EXPECT_DOUBLE_EQ(config.ellipsoidE2, 0.00669438002290);
+  // GRS 80: e'^2 = e^2 / (1 - e^2) = 0.006739496775...
+  EXPECT_NEAR(config.ellipsoidEp2, 0.00673949677548, 1e-14);
+}
+
+// The path comes out in capitals, yet finds its folder in any case.
+TEST_F(AppFolder, SupportPathInCapitalsFindsTheFolderOfAnyCase) {
+  Check("Support File Path=c:\\data\\\r\n");
+  EXPECT_EQ(fake.platform.paths.supportPath, "C:\\DATA\\");
+  app.Write("support/Contrib.dat", "x");
+  const std::string missing = Check("SUPPORT FILE PATH=" + app.Path() + "/support/\r\n");
+  EXPECT_EQ(fake.platform.paths.supportPath, app.Path() + "/support/");
+  EXPECT_EQ(missing.find("Contrib.dat"), std::string::npos);
+  EXPECT_NE(missing.find("Country.dat"), std::string::npos);
+}
+
+TEST_F(AppFolder, AbsentE2GivesZeroEccentricities) {
+  WriteSupportFiles();
+  EXPECT_EQ(Check("ELLIPSOID A=6378206.4\r\n"), "");
+  EXPECT_EQ(config.ellipsoidE2, 0.0);
+  EXPECT_EQ(config.ellipsoidEp2, 0.0);
+}
+
+TEST(SecondEccentricity, FailsOnTheSquareRoot) {
+  EXPECT_NEAR(SecondEccentricitySquared(0.5), 1.0, 1e-15);
+  EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.0); }), kDivisionByZero);
+  EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.5); }), kInvalidProcedureCall);
+}
+
+struct RecentFilesTest : ::testing::Test {
+  testing::TestSession session;
+  MemorySettings settings;
+  std::vector<std::string> Visible() {
+    std::vector<std::string> captions;
+    for (int n = 1; n <= 8; ++n)
+      if (session.menu[MruItemName(n)].visible) captions.push_back(session.menu[MruItemName(n)].caption);
+    return captions;
+  }
+};
+
+TEST_F(RecentFilesTest, EmptyListHidesEntriesAndSeparator) {
+  LoadMRUList(session, settings);
+  EXPECT_TRUE(session.shell.MRUList.empty());
+  EXPECT_TRUE(Visible().empty());
+  EXPECT_FALSE(session.menu["mnuFileMRUSep"].visible);
+}
+
+TEST_F(RecentFilesTest, LoadKeepsNonEmptyNamesInOrder) {
+  for (const auto& [key, name] : {std::pair{"Name1", "/d/a.dat"}, {"Name2", ""}, {"Name3", "/d/c.dat"}})
+    settings.SaveSetting("MRUList", key, name);
+  LoadMRUList(session, settings);
+  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat"}));
+  EXPECT_EQ(Visible(), (std::vector<std::string>{"&1 /d/a.dat", "&2 /d/c.dat"}));
+  EXPECT_TRUE(session.menu["mnuFileMRUSep"].visible);
+}
+
+TEST_F(RecentFilesTest, NinthFilePushesTheOldestOut) {
+  for (int n = 1; n <= 9; ++n) AddToMRUList(session, settings, "/d/f" + std::to_string(n) + ".dat");
+  ASSERT_EQ(session.shell.MRUList.size(), 8u);
+  EXPECT_EQ(session.shell.MRUList.front(), "/d/f9.dat");
+  EXPECT_EQ(session.shell.MRUList.back(), "/d/f2.dat");
+  EXPECT_EQ(settings.GetSetting("MRUList", "Name8", ""), "/d/f2.dat");
+  EXPECT_EQ(Visible().size(), 8u);
+}
+
+TEST_F(RecentFilesTest, ReopenedFileMovesToTopInItsNewForm) {
+  AddToMRUList(session, settings, "/d/A.dat");
+  AddToMRUList(session, settings, "/d/b.dat");
+  AddToMRUList(session, settings, "/d/c.dat");
+  AddToMRUList(session, settings, "/d/a.dat");  // equal to the first entry in lower case
+  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat", "/d/b.dat"}));
+  EXPECT_EQ(Visible().front(), "&1 /d/a.dat");
+}
+
+TEST_F(RecentFilesTest, ShorterListLeavesHigherKeysInPlace) {
+  for (const auto& [key, name] : {std::pair{"Name1", "/d/a.dat"}, {"Name2", "/d/b.dat"}, {"Name5", "/d/stale.dat"}})
+    settings.SaveSetting("MRUList", key, name);
+  LoadMRUList(session, settings);  // Name5 is read as the third entry
+  AddToMRUList(session, settings, "/d/b.dat");
+  EXPECT_EQ(settings.GetSetting("MRUList", "Name1", ""), "/d/b.dat");
+  EXPECT_EQ(settings.GetSetting("MRUList", "Name2", ""), "/d/a.dat");
+  EXPECT_EQ(settings.GetSetting("MRUList", "Name3", ""), "/d/stale.dat");
+  EXPECT_EQ(settings.GetSetting("MRUList", "Name5", ""), "/d/stale.dat");
+}
+
+struct CommandsTest : AppFolder {
+  CommandTable table = BuildCommandTable();
+  void Run(const std::string& name) { table.Run(name, session, fake.platform); }
+};
+
+TEST_F(CommandsTest, UnbuiltCommandSaysSoInAPlainBox) {
+  CommandTable empty;
+  empty.Run("mnuPlot", session, fake.platform);
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text, "This command is not available yet.");
+  EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::None);
+  EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::Ok);
+}
+
+TEST_F(CommandsTest, FailuresAreTrappedAtTheCommandLevel) {
+  CommandTable commands;
+  commands.Register("cancelled", [](Session&, Platform&) { throw CancelError(); });
+  commands.Register("failed", [](Session&, Platform& p) {
+    p.dlgProcessing.Show();
+    throw SubscriptOutOfRange();
+  });
+  commands.Run("cancelled", session, fake.platform);
+  EXPECT_TRUE(fake.ui.messages.empty());
+  commands.Run("failed", session, fake.platform);
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text, "Subscript out of range");
+  EXPECT_FALSE(fake.progress.Visible());
+}
+
+TEST_F(CommandsTest, OpenDatAsksForADatasetAndRemembersIt) {
+  app.Write("data/site.dat", "");
+  fake.settings.SaveSetting("Settings", "LastDatFullName", app.Path() + "/data/old.dat");
+  fake.ui.fileAnswers.push_back(app.Path() + "/data/site.dat");
+  Run("mnuOpenDat");
+  ASSERT_EQ(fake.ui.fileDialogs.size(), 1u);
+  const auto& dialog = fake.ui.fileDialogs[0];
+  EXPECT_FALSE(dialog.save);
+  EXPECT_EQ(dialog.filter, "Data Files (*.dat)|*.dat");
+  EXPECT_EQ(dialog.title, "Open Dat File");
+  EXPECT_EQ(dialog.initDir, app.Path() + "/data/");
+  EXPECT_EQ(dialog.defaultExt, "dat");
+
+  const std::string path = app.Path() + "/data/site.dat";
+  EXPECT_EQ(session.dataset.DatFile, path);
+  EXPECT_EQ(session.dataset.DatFilePath, app.Path() + "/data/");
+  EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatFullName", ""), path);
+  EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatDirectory", ""), app.Path() + "/data/");
+  EXPECT_EQ(fake.settings.GetSetting("Settings", "PhotoDir", ""), app.Path() + "/data/");
+  EXPECT_EQ(session.shell.MRUList, std::vector<std::string>{path});
+  EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 " + path);
+}
+
+TEST_F(CommandsTest, DatasetPathIsKeptInLowerCaseWhereThatNamesTheSameFile) {
+  // The folder exists only in lower case, so the lower-case form of the name is the file to make.
+  app.Write("data/x", "");
+  fake.ui.fileAnswers.push_back(app.Path() + "/data/NEW.DAT");
+  Run("mnuOpenDat");
+  EXPECT_EQ(session.dataset.DatFile, app.Path() + "/data/new.dat");
+
+  // A folder with capitals: the lower-case form would name nothing, so the path keeps its case.
+  app.Write("Field/Site.dat", "");
+  fake.ui.fileAnswers.push_back(app.Path() + "/Field/Site.dat");
+  Run("mnuOpenDat");
+  EXPECT_EQ(session.dataset.DatFile, app.Path() + "/Field/Site.dat");
+}
+
+TEST_F(CommandsTest, CancelledOpenChangesNothing) {
+  fake.ui.fileAnswers.push_back("");  // cancel
+  Run("mnuOpenDat");
+  EXPECT_TRUE(session.dataset.DatFile.empty());
+  EXPECT_TRUE(fake.ui.messages.empty());
+  EXPECT_FALSE(fake.settings.Has("Settings", "LastDatFullName"));
+}
+
+TEST_F(CommandsTest, RecentEntryReopensAndMovesToTop) {
+  app.Write("a.dat", "");
+  app.Write("b.dat", "");
+  fake.ui.fileAnswers = {app.File("a.dat"), app.File("b.dat")};
+  Run("mnuOpenDat");
+  Run("mnuOpenDat");
+  ASSERT_EQ(session.shell.MRUList.front(), app.File("b.dat"));
+  Run("mnuFileMRUItem(2)");
+  EXPECT_EQ(session.dataset.DatFile, app.File("a.dat"));
+  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{app.File("a.dat"), app.File("b.dat")}));
+  EXPECT_EQ(fake.settings.GetSetting("Settings", "LastDatFullName", ""), app.File("a.dat"));
+}
+
+TEST_F(CommandsTest, ColoursAreChosenAndKept) {
+  fake.ui.colorAnswers = {std::uint32_t{0x0000FF}, std::nullopt};
+  Run("mnuSetBackColor");
+  EXPECT_EQ(session.shell.backColor, 255u);
+  EXPECT_EQ(fake.settings.GetSetting("Settings", "BackColor", ""), "255");
+  Run("mnuSetForColor");  // cancelled
+  EXPECT_EQ(session.shell.foreColor, 0u);
+  EXPECT_FALSE(fake.settings.Has("Settings", "ForeColor"));
+  EXPECT_EQ(fake.ui.colorTitles, (std::vector<std::string>{"Select Background Color", "Select Foreground Color"}));
+}
+
+TEST_F(CommandsTest, HelpOpensTheManualNamedByTheConfiguration) {
+  app.Write("manual/index.html", "<html></html>");
+  session.config.helpFile = "MANUAL/INDEX.HTML";  // as the configuration file gives it
+  Run("mnuBenchlogHlp");
+  EXPECT_EQ(fake.ui.helpShown, std::vector<std::string>{app.Path() + "/manual/index.html"});
+}
+
+TEST_F(CommandsTest, AboutShowsItsTextsAndSystemInformation) {
+  fake.ui.modalActions.push_back([&](DialogModel& model) {
+    auto& about = dynamic_cast<FrmAbout&>(model);
+    EXPECT_EQ(about.caption, "About Benchlog");
+    EXPECT_EQ(about.lblVersion, "Version 1.0.0");
+    EXPECT_EQ(about.lblDescription.rfind("This program is designed for extracting data from OCO MKDATA datasets."
+                                         "  Report trouble or suggestions for enhancements to:   ",
+                                         0),
+              0u);
+    about.cmdSysInfo_Click(fake.platform);
+  });
+  Run("mnuHelpAbout");
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"System Information Is Unavailable At This Time"});
+}
+
+TEST_F(CommandsTest, ExitAsksTheWindowToClose) {
+  Run("mnuExit");
+  EXPECT_TRUE(session.shell.quitRequested);
+}
+
+TEST(DemoDataset, FirstRunCopiesTheSampleOnce) {
+  TempFolder folder;
+  folder.Write("samples/sample.dat", "1      header\r\n");
+  folder.Write("samples/AB1234ph.jpg", "jpeg");
+  testing::MemorySettings settings;
+  const std::string demo = folder.File("demo");
+  const std::string path = PrepareDemoDataset(settings, folder.File("samples"), demo);
+  EXPECT_EQ(path, demo + "/sample.dat");
+  EXPECT_EQ(ReadWholeFile(path), "1      header\r\n");
+  EXPECT_TRUE(FileExists(demo + "/AB1234ph.jpg"));
+  EXPECT_EQ(settings.GetSetting("Settings", "LastDatFullName", ""), path);
+  EXPECT_EQ(settings.GetSetting("Settings", "PhotoDir", ""), demo + "/");
+
+  // A dataset is chosen now: nothing more happens.
+  EXPECT_EQ(PrepareDemoDataset(settings, folder.File("samples"), demo), "");
+}
+
+}  // namespace
+}  // namespace benchlog

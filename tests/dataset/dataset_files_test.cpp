@@ -1,0 +1,545 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <tuple>
+
+#include "common/files.hpp"
+#include "common/line_input.hpp"
+#include "common/text.hpp"
+#include "dataset/build_mark_index.hpp"
+#include "dataset/compress_dataset.hpp"
+#include "dataset/dataset_test_support.hpp"
+#include "dataset/dataset_text.hpp"
+#include "dataset/description_file.hpp"
+#include "dataset/load_dataset_index.hpp"
+#include "dataset/mark_lookup.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/test_rows.hpp"
+#include "session/index_record.hpp"
+
+namespace benchlog {
+namespace {
+
+using testing::FakePlatform;
+using testing::Fixture;
+using testing::TempFolder;
+
+std::string Bool(bool value) { return value ? "1" : "0"; }
+
+TEST(DatasetText, GivesTheResultsOfTheCaseTable) {
+  using Args = testing::CallArgs;
+  const testing::CallTable calls = {
+      {"Kind", {1, [](const Args& a) {
+         return Bool(IsHeaderLine(a[0])) + "|" + Bool(IsDataLine(a[0])) + "|" + Bool(IsForeignLine(a[0]));
+       }}},
+      {"Pid", {1, [](const Args& a) { return std::string(LinePid(a[0])); }}},
+      {"Mark", {1, [](const Args& a) { return LineMark(a[0]) ? std::string(1, LineMark(a[0])) : ""; }}},
+      {"KeyAt", {3, [](const Args& a) { return Bool(KeyAt(a[0], std::stoul(a[1]), a[2])); }}},
+      {"Columns", {3, [](const Args& a) { return std::string(Columns(a[0], std::stoul(a[1]), std::stoul(a[2]))); }}},
+      {"CountedLength", {1, [](const Args& a) { return std::to_string(CountedLength(a[0])); }}},
+      {"Blank", {1, [](const Args& a) { return Bool(IsBlankLine(a[0])); }}},
+      {"Position", {1, [](const Args& a) {
+         if (!IsPositionLine(a[0])) return std::string("0|0||");
+         return "1|" + Bool(IsLongDatumLayout(a[0])) + "|" + std::string(PositionLatitudeText(a[0])) + "|" +
+                std::string(PositionLongitudeText(a[0]));
+       }}},
+      {"History", {1, [](const Args& a) {
+         return Bool(IsHistoryHeadLine(a[0])) + "|" + Bool(IsHistoryLine(a[0])) + "|" + std::string(HistoryYear(a[0])) +
+                "|" + std::string(HistoryCondition(a[0])) + "|" + std::string(HistoryAgency(a[0]));
+       }}},
+  };
+  testing::CheckCalls("dataset/cases.txt", 27, calls);
+}
+
+struct Golden {
+  const char* name;
+  std::size_t descriptions;
+  std::vector<const char*> pictures;  // files made beside the dataset before the build
+};
+
+class GoldenIndex : public ::testing::TestWithParam<Golden> {};
+
+// The index file matches the hand-made one byte for byte, and the built array has the builder's
+// layout: the records of all but the last Description, an empty element, the last record, the
+// sentinel. Loading the file gives the other layout: the records, the sentinel, an empty element.
+TEST_P(GoldenIndex, MatchesTheHandMadeIndex) {
+  const Golden& g = GetParam();
+  TempFolder folder;
+  const std::string dat = CopyFixture(folder, std::string(g.name) + ".dat");
+  for (const char* picture : g.pictures) folder.Write(picture, "");
+  const std::string ndx = folder.File(std::string(g.name) + ".ndx");
+  FakePlatform fake(folder.Path());
+  MarkIndex index;
+
+  ASSERT_TRUE(BuildMarkIndex(dat, ndx, index, fake.platform));
+  EXPECT_TRUE(fake.ui.messages.empty());
+  const std::string expected = Fixture(std::string(g.name) + ".ndx");
+  EXPECT_EQ(ReadWholeFile(ndx), expected);
+
+  const std::vector<std::string> lines = SplitCrLf(expected);  // records, sentinel, ""
+  const std::size_t d = g.descriptions;
+  ASSERT_EQ(lines.size(), d + 2);
+  ASSERT_EQ(index.Size(), d + 2);
+  for (std::size_t i = 0; i + 1 < d; ++i) EXPECT_EQ(index[i], lines[i]) << "element " << i;
+  EXPECT_EQ(index[d - 1], "");
+  EXPECT_EQ(index[d], lines[d - 1]);
+  EXPECT_EQ(index[d + 1], lines[d]);
+
+  MarkIndex loaded;
+  LoadIndexFile(ndx, loaded);
+  EXPECT_EQ(loaded.Elements(), lines);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fixtures, GoldenIndex,
+    ::testing::Values(Golden{"layouts", 4, {}}, Golden{"landmarks", 8, {}},
+                      Golden{"pictures", 3, {"EF0001ph.jpg", "EF0001sk.jpg", "EF0002sk.jpg", "EF0003ph.jpg"}},
+                      Golden{"empty", 1, {}}, Golden{"single", 1, {}}, Golden{"blanked", 2, {}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+struct IndexBuild : ::testing::Test {
+  TempFolder folder;
+  FakePlatform fake{folder.Path()};
+  MarkIndex index;
+  // The index file built from a dataset of `text`.
+  std::string Built(const std::string& text) {
+    BuildMarkIndex(folder.Write("x.dat", text), folder.File("x.ndx"), index, fake.platform);
+    return ReadWholeFile(folder.File("x.ndx"));
+  }
+};
+
+// What stands before the first header belongs to no Description: the first record starts at 1
+// even when a deleted Description's blanks lie there.
+TEST_F(IndexBuild, LeadingBlanksDoNotMoveTheFirstOffset) {
+  const std::string text = std::string(98, ' ') + "\r\n1      \r\n QQ0001  PID         -  QQ0001\r\n";
+  const auto records = SplitCrLf(Built(text));
+  ASSERT_EQ(records.size(), 3u);
+  EXPECT_EQ(RecordOffset(records[0]), 1u);
+  EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0001");
+  EXPECT_EQ(RecordOffset(records[1]), text.size());
+}
+
+TEST_F(IndexBuild, NoHeaderLineGivesOneRecordAtOffsetZero) {
+  const auto records = SplitCrLf(Built(" QQ0002  PID         -  QQ0002\r\n QQ0002  DESIGNATION -  LOOSE\r\n"));
+  ASSERT_EQ(records.size(), 3u);
+  EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0002");
+  EXPECT_EQ(IndexField(records[0], kDesignationColumn), "LOOSE" + std::string(25, ' '));
+  EXPECT_EQ(RecordOffset(records[0]), 0u);
+}
+
+// Every line counts as its length plus 2, whatever its real end: a file with bare CR ends gets
+// offsets that run ahead of the bytes.
+TEST_F(IndexBuild, CountsEveryLineAsCrLfEnded) {
+  const auto records = SplitCrLf(Built("1      \r QQ0003  PID         -  QQ0003\r1      \r QQ0004  PID         -  QQ0004\r"));
+  ASSERT_EQ(records.size(), 4u);
+  EXPECT_EQ(RecordOffset(records[1]), 1u + 9 + 32);
+  EXPECT_EQ(RecordOffset(records[2]), 78u);  // the sentinel has the real length
+}
+
+TEST_F(IndexBuild, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
+  const std::string dat = CopyFixture(folder, "landmarks.dat");  // 8 Descriptions
+  fake.progress.max = 5;
+  fake.progress.value = 1;
+  fake.progress.Show();
+  BuildMarkIndex(dat, folder.File("landmarks.ndx"), index, fake.platform);
+  EXPECT_EQ(fake.progress.value, 5);  // 7 header lines finish a Description; the bar stops at 5
+  EXPECT_FALSE(fake.progress.Visible());
+  std::vector<int> values;
+  for (const auto& p : fake.progressHistory) values.push_back(p.value);
+  EXPECT_EQ(values, (std::vector<int>{1, 2, 3, 4, 5, 5}));  // show, 4 steps, hide
+}
+
+TEST_F(IndexBuild, FailureIsShownAndTheOldIndexStays) {
+  const std::string ndx = folder.Write("gone.ndx", "old index\r\n");
+  fake.progress.Show();
+  index.Set(0, "kept?");
+  EXPECT_FALSE(BuildMarkIndex(folder.File("gone.dat"), ndx, index, fake.platform));
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text, "File not found");
+  EXPECT_EQ(fake.ui.messages[0].title, "Create Mark Index");
+  EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::Critical);
+  EXPECT_FALSE(fake.progress.Visible());
+  EXPECT_EQ(ReadWholeFile(ndx), "old index\r\n");
+  EXPECT_TRUE(index.Empty());  // cleared before the scan began
+}
+
+// A dataset with the index's own name in the program's folder is never written over.
+TEST_F(IndexBuild, NeverWritesOverTheDataset) {
+  const std::string dat = CopyFixture(folder, "single.dat");
+  EXPECT_FALSE(BuildMarkIndex(dat, dat, index, fake.platform));
+  EXPECT_EQ(ReadWholeFile(dat), Fixture("single.dat"));
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Path/File access error"});
+}
+
+TEST_F(IndexBuild, AnUnwritableIndexIsReported) {
+  const std::string dat = CopyFixture(folder, "single.dat");
+  EXPECT_FALSE(BuildMarkIndex(dat, folder.File("no/such/folder.ndx"), index, fake.platform));
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text,
+            "Path/File access error: could not write " + folder.File("no/such/folder.ndx") + " (No such file or directory)");
+}
+
+// A dataset folder and a separate program folder (App.Path), as on a real installation.
+struct Opening {
+  TempFolder data, app;
+  FakePlatform fake{app.Path()};
+  testing::TestSession session;
+  Opening() {
+    session.dataset.DatFile = data.File("landmarks.dat");
+    session.dataset.DatFilePath = data.Path() + "/";
+    session.shell.caption = "Benchlog Version 1.0.0";
+  }
+  bool Load() { return LoadDatasetIndex(session, fake.platform); }
+};
+
+TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
+  Opening o;
+  o.session.dataset.markIndex.Assign({"previous"});
+  o.session.menu["mnuViewHcl"].enabled = false;
+  EXPECT_FALSE(o.Load());
+  const std::string stem = o.data.File("landmarks");
+  EXPECT_EQ(o.session.outputs.HclFile, stem + ".hcl");
+  EXPECT_EQ(o.session.outputs.VclFile, stem + ".vcl");
+  EXPECT_EQ(o.session.outputs.MsfFile, stem + ".msf");
+  EXPECT_EQ(o.session.outputs.ErrFile, stem + ".err");
+  EXPECT_EQ(o.session.outputs.SA6File, stem + "_SA6.txt");
+  EXPECT_EQ(o.session.dataset.IndexFile, o.app.File("landmarks.ndx"));
+  EXPECT_EQ(o.session.shell.caption, "Benchlog Version 1.0.0");
+  EXPECT_EQ(o.session.dataset.markIndex.Elements(), std::vector<std::string>{"previous"});
+  EXPECT_TRUE(o.fake.ui.messages.empty());
+  EXPECT_FALSE(o.session.menu["mnuViewHcl"].enabled);
+}
+
+TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
+  Opening o;
+  CopyFixture(o.data, "landmarks.dat");
+  o.data.Write("landmarks.hcl", "");
+  o.data.Write("landmarks.err", "");
+  EXPECT_TRUE(o.Load());
+  ASSERT_FALSE(o.fake.progressHistory.empty());
+  const Progress& shown = o.fake.progressHistory.front();
+  EXPECT_TRUE(shown.Visible());
+  EXPECT_EQ(shown.lblProcessing, "Creating index...");
+  EXPECT_EQ(shown.lblInfo, "Please wait...");
+  EXPECT_EQ(shown.max, 0);  // 3513 bytes / 5000
+  EXPECT_EQ(shown.value, 1);
+  EXPECT_FALSE(o.fake.progress.Visible());
+  EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
+  EXPECT_EQ(ReadWholeFile(o.session.dataset.IndexFile), Fixture("landmarks.ndx"));
+  EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile);
+  EXPECT_TRUE(o.session.menu["mnuViewHcl"].enabled);
+  EXPECT_FALSE(o.session.menu["mnuViewVcl"].enabled);
+  EXPECT_TRUE(o.session.menu["mnuViewError"].enabled);
+}
+
+// The index is judged by its sentinel alone: the dataset's length.
+TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
+  struct Case {
+    const char* name;
+    std::string index;
+    bool rebuilt;
+  };
+  const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003513 |\r\n";
+  const Case cases[] = {
+      {"valid", Fixture("landmarks.ndx"), false},
+      {"other dataset's length", Fixture("layouts.ndx"), true},
+      {"same length, other content", garbage, false},
+      {"empty file", "", true},
+      {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true},
+  };
+  for (const auto& c : cases) {
+    Opening o;
+    CopyFixture(o.data, "landmarks.dat");
+    o.app.Write("landmarks.ndx", c.index);
+    EXPECT_EQ(o.Load(), c.rebuilt) << c.name;
+    EXPECT_TRUE(std::none_of(o.fake.progressHistory.begin(), o.fake.progressHistory.end(),
+                             [](const Progress& p) { return p.Visible(); }))
+        << c.name;
+    EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << c.name;
+    const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
+    EXPECT_EQ(onDisk, c.rebuilt ? Fixture("landmarks.ndx") : c.index) << c.name;
+    if (c.rebuilt) {
+      EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << c.name;
+      EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << c.name;  // built layout: 8 Descriptions
+      EXPECT_EQ(o.session.dataset.markIndex[7], "") << c.name;
+    } else {
+      EXPECT_TRUE(o.fake.ui.messages.empty()) << c.name;
+      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(c.index)) << c.name;
+    }
+  }
+}
+
+std::string Record(const char* pid, const char* longitude, const char* designation, std::uint64_t offset) {
+  IndexRecord r;
+  r.Pid = pid;
+  r.HorzOrder = "1";
+  r.VertOrder = "2";
+  r.Latitude = "39 44 29.12345";
+  r.Longitude = longitude;
+  r.Designation = designation;
+  r.DescriptionOffset = offset;
+  return FormatIndexRecord(r);
+}
+
+// Two records as loaded from a file: XX0002 also stands in XX0001's name ("REF XX0002 OLD", from
+// column 47 of the joined text), so its look-up starts there.
+MarkIndex QuirkIndex() {
+  MarkIndex index;
+  index.Assign({Record("XX0001", "104 59 31.54321", "REF XX0002 OLD", 1),
+                Record("XX0002", "105 05 52.76543", "KIPLING", 500), SentinelRecord(900), ""});
+  return index;
+}
+
+TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
+  const MarkIndex index = QuirkIndex();
+  struct Case {
+    const char* pid;
+    std::size_t position;
+    std::int64_t start, next;
+    const char* horz;
+    const char* vert;
+  };
+  const Case cases[] = {
+      // own record: offset at +134; the next offset read one column in ("00000500 ")
+      {"XX0001", 1, 1, 500, "1", "2"},
+      // inside the earlier name: +134 lands in XX0002's columns 35-43, "2.76543 K", which rounds
+      // to 3; +281 lands in the sentinel's blanks; the orders are letters of the name
+      {"XX0002", 47, 3, 0, "O", "D"},
+      // an empty text is found at the start
+      {"", 1, 1, 500, "1", "2"},
+  };
+  for (const auto& c : cases) {
+    const MarkLocation at = LocateMark(index, c.pid);
+    EXPECT_EQ(at.position, c.position) << c.pid;
+    EXPECT_EQ(at.start, c.start) << c.pid;
+    EXPECT_EQ(at.next, c.next) << c.pid;
+    std::string horz, vert;
+    EXPECT_EQ(GetOrdersByPid(index, c.pid, horz, vert), "") << c.pid;
+    EXPECT_EQ(horz, c.horz) << c.pid;
+    EXPECT_EQ(vert, c.vert) << c.pid;
+  }
+}
+
+TEST(MarkLookup, AnAbsentPidGivesBlankOrdersAndTheMessage) {
+  std::string horz = "x", vert = "y";
+  EXPECT_EQ(GetOrdersByPid(QuirkIndex(), "ZZ9999", horz, vert), "Pid Not Found!");
+  EXPECT_EQ(horz, " ");
+  EXPECT_EQ(vert, " ");
+  EXPECT_EQ(LocateMark(QuirkIndex(), "ZZ9999").position, 0u);
+}
+
+// The look-up answers exactly as a search of the joined records would, for every six characters
+// that stand anywhere in them, and follows changes of the index.
+TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
+  testing::TempFolder folder;
+  testing::FakePlatform fake(folder.Path());
+  MarkIndex index;
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), index, fake.platform);
+  const std::string joined = index.Joined();
+  for (std::size_t i = 0; i + 6 <= joined.size(); i += 3) {
+    const std::string probe = joined.substr(i, 6);
+    ASSERT_EQ(index.Find(probe), InStr(joined, probe)) << '"' << probe << '"';
+  }
+  EXPECT_EQ(index.Find("AB1236"), InStr(joined, "AB1236"));
+  index.Set(0, Record("AB1236", "104 59 31.54321", "MOVED", 1));
+  EXPECT_EQ(index.Find("AB1236"), 1u);
+  EXPECT_EQ(index.Find("AB1234"), 0u);
+}
+
+// Both layouts of the array give the same spans where the records have their full width, since
+// an empty element only adds one blank.
+TEST(MarkLookup, SpansInBothLayouts) {
+  testing::TempFolder folder;
+  testing::FakePlatform fake(folder.Path());
+  MarkIndex built, loaded;
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), built, fake.platform);
+  LoadIndexFile(folder.File("l.ndx"), loaded);
+  for (const auto& c : testing::ReadRows("dataset/lookup_cases.txt", 5, '|')) {
+    EXPECT_EQ(LocateMark(built, c[0]).start, std::stoll(c[1])) << c[0];
+    EXPECT_EQ(LocateMark(built, c[0]).next, std::stoll(c[2])) << c[0];
+    EXPECT_EQ(LocateMark(loaded, c[0]).start, std::stoll(c[3])) << c[0];
+    EXPECT_EQ(LocateMark(loaded, c[0]).next, std::stoll(c[4])) << c[0];
+  }
+}
+
+// landmarks.dat: 8 Descriptions CD0001..CD0008 at these offsets, 3513 bytes in all.
+constexpr std::size_t kOffsets[] = {1, 467, 889, 1318, 1799, 2214, 2634, 3091, 3514};
+
+struct Landmarks {
+  TempFolder folder;
+  std::string dat = CopyFixture(folder, "landmarks.dat");
+  std::string original = Fixture("landmarks.dat");
+  MarkIndex index;
+  Landmarks() { LoadIndexFile(CopyFixture(folder, "landmarks.ndx"), index); }
+  std::string Span(int i, std::size_t shortBy = 0) const {
+    return original.substr(kOffsets[i] - 1, kOffsets[i + 1] - kOffsets[i] - shortBy);
+  }
+};
+
+TEST(GetDescription, ReadsTheSpanBetweenTwoOffsets) {
+  Landmarks data;
+  // PID, Description, bytes short: the last ends at the dataset's length, one byte short of its final LF.
+  const std::tuple<const char*, int, std::size_t> cases[] = {{"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}};
+  for (const auto& [pid, description, shortBy] : cases) {
+    std::string text;
+    EXPECT_EQ(GetDescription(data.index, data.dat, pid, text), "") << pid;
+    EXPECT_EQ(text, data.Span(description, shortBy)) << pid;
+  }
+  std::string text;
+  GetDescription(data.index, data.dat, "CD0008", text);
+  EXPECT_EQ(text.substr(text.size() - 2), "E\r");
+}
+
+TEST(GetDescription, FailuresAndSilentCases) {
+  Landmarks data;
+  std::string text = "as passed";
+  EXPECT_EQ(GetDescription(data.index, data.dat, "ZZ9999", text), "PID not found!");
+  EXPECT_EQ(GetDescription(data.index, data.folder.File("missing.dat"), "CD0002", text), "");
+  EXPECT_EQ(text, "as passed");
+
+  // The empty dataset's only record has offset 0: nothing is read.
+  MarkIndex empty;
+  LoadIndexFile(CopyFixture(data.folder, "empty.ndx"), empty);
+  EXPECT_EQ(GetDescription(empty, CopyFixture(data.folder, "empty.dat"), "", text), "");
+  EXPECT_EQ(text, "as passed");
+
+  // A record cut short makes the look-up read a later offset than the next one.
+  MarkIndex layouts;
+  LoadIndexFile(CopyFixture(data.folder, "layouts.ndx"), layouts);
+  EXPECT_EQ(GetDescription(layouts, CopyFixture(data.folder, "layouts.dat"), "AB1236", text),
+            "Invalid description Length!");
+  EXPECT_EQ(text, "as passed");
+}
+
+TEST(BlankDescription, OverwritesTheSpanAndKeepsTheLength) {
+  // PID, Description, bytes written (blanks and CR LF)
+  const std::tuple<const char*, int, std::size_t> cases[] = {
+      {"CD0004", 3, 481},
+      {"CD0001", 0, 466},
+      {"", 0, 466},        // an empty PID is found at the start: the first Description goes
+      {"CD0008", 7, 422},  // the last: one byte short, so its final LF stays behind the CR LF
+  };
+  for (const auto& [pid, description, span] : cases) {
+    Landmarks data;
+    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
+    std::string expected = data.original;
+    expected.replace(kOffsets[description] - 1, span, std::string(span - 2, ' ') + "\r\n");
+    EXPECT_EQ(ReadWholeFile(data.dat), expected) << pid;
+  }
+  Landmarks data;
+  BlankDescription(data.index, data.dat, "CD0008");
+  const std::string after = ReadWholeFile(data.dat);
+  EXPECT_EQ(after.substr(after.size() - 5), "  \r\n\n");
+}
+
+std::string Rec(const char* pid, std::uint64_t offset) {
+  IndexRecord r;
+  r.Pid = pid;
+  r.DescriptionOffset = offset;
+  return FormatIndexRecord(r);
+}
+
+TEST(BlankDescription, ShortSpansAndAZeroOffset) {
+  for (const auto& c : testing::ReadRows("dataset/blank_cases.txt", 4, '|')) {
+    TempFolder folder;
+    const std::string dat = folder.Write("t.dat", "abcdefghijklmnopqrst");
+    MarkIndex index;
+    index.Assign({Rec("PP0001", std::stoull(c[0])), Rec("PP0002", std::stoull(c[1])), SentinelRecord(20), ""});
+    EXPECT_EQ(BlankDescription(index, dat, "PP0001"), "");
+    EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0] << ".." << c[1];
+  }
+}
+
+TEST(BlankDescription, Failures) {
+  Landmarks data;
+  EXPECT_EQ(BlankDescription(data.index, data.dat, "ZZ9999"), "PID not found!");
+  EXPECT_EQ(BlankDescription(data.index, data.folder.File("missing.dat"), "CD0002"),
+            "Unable to open .dat file for writing.");
+  EXPECT_FALSE(FileExists(data.folder.File("missing.dat")));
+  EXPECT_EQ(ReadWholeFile(data.dat), data.original);
+}
+
+TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
+  for (const auto& c : testing::ReadRows("dataset/compress_cases.txt", 7, '|')) {
+    TempFolder folder;
+    const std::string dat = folder.Write("d.dat", c[1]);
+    FakePlatform fake(folder.Path());
+    EXPECT_EQ(CompressDataset(dat, fake.platform), "") << c[0];
+    EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0];
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 1)
+        << c[0];  // no work file stays
+    EXPECT_TRUE(fake.ui.messages.empty()) << c[0];
+  }
+}
+
+// 80 lines of 98 characters and CR LF: 8000 bytes.
+std::string Lines(int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += " " + std::string(97, 'x') + "\r\n";
+  return text;
+}
+
+TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
+  struct Case {
+    std::string text;
+    bool shown;
+    int max;
+  };
+  const Case cases[] = {
+      {Lines(80), false, 0},
+      {Lines(80) + "x", true, 1},
+      {Lines(250), true, 3},  // 25,000 bytes: bar to 3; lines 100 and 200 set it to 1 and 2
+  };
+  for (const auto& c : cases) {
+    TempFolder folder;
+    const std::string dat = folder.Write("d.dat", c.text);
+    FakePlatform fake(folder.Path());
+    fake.progress.max = 0;
+    EXPECT_EQ(CompressDataset(dat, fake.platform), "");
+    EXPECT_FALSE(fake.progress.Visible());
+    bool shown = false;
+    for (const auto& p : fake.progressHistory) shown = shown || p.Visible();
+    EXPECT_EQ(shown, c.shown) << c.text.size();
+    if (!c.shown) continue;
+    const Progress& first = fake.progressHistory.front();
+    EXPECT_EQ(first.caption, "Compress MKDATA file");
+    EXPECT_EQ(first.lblProcessing, "Compressing File");
+    EXPECT_EQ(first.lblInfo, "Please wait...");
+    EXPECT_EQ(first.max, c.max);
+    EXPECT_EQ(fake.ui.doEventsCalls, 1);
+  }
+  TempFolder folder;
+  FakePlatform fake(folder.Path());
+  CompressDataset(folder.Write("d.dat", Lines(250)), fake.platform);
+  std::vector<int> values;
+  for (const auto& p : fake.progressHistory) values.push_back(p.value);
+  EXPECT_EQ(values, (std::vector<int>{0, 0, 1, 2, 2}));  // show, refresh, two steps, hide
+}
+
+TEST(CompressDataset, AMissingDatasetIsReportedAtTheReadingStage) {
+  TempFolder folder;
+  FakePlatform fake(folder.Path());
+  EXPECT_EQ(CompressDataset(folder.File("gone.dat"), fake.platform), "Unable to open .dat file for reading.");
+  ASSERT_EQ(fake.ui.messages.size(), 1u);
+  EXPECT_EQ(fake.ui.messages[0].text, "Unable to open .dat file for reading.\r\nFile not found");
+  EXPECT_FALSE(FileExists(folder.File("gone.dat")));
+}
+
+// A read-only dataset is not replaced: the dataset is untouched and no work file stays.
+TEST(CompressDataset, AReadOnlyDatasetIsLeftWhole) {
+  TempFolder folder;
+  const std::string dat = folder.Write("d.dat", " keep  \r\n  \r\n");
+  std::filesystem::permissions(dat, std::filesystem::perms::owner_read);
+  FakePlatform fake(folder.Path());
+  fake.progress.Show();
+  EXPECT_EQ(CompressDataset(dat, fake.platform), "Unable to open a file in the product directory for writing.");
+  EXPECT_EQ(fake.ui.MessageTexts(),
+            std::vector<std::string>{"Unable to open a file in the product directory for writing.\r\nPath/File access error"});
+  EXPECT_EQ(ReadWholeFile(dat), " keep  \r\n  \r\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 1);
+  EXPECT_FALSE(fake.progress.Visible());
+}
+
+}  // namespace
+}  // namespace benchlog

@@ -1,0 +1,74 @@
+// Look-ups in the support files, each against its expected result in tests/data/support/cases.txt.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <functional>
+
+#include "common/runtime_failure.hpp"
+#include "common/text.hpp"
+#include "export/parser/note_header.hpp"
+#include "fakes/test_rows.hpp"
+#include "support_files/contributors.hpp"
+#include "support_files/country_file.hpp"
+#include "support_files/monument_category.hpp"
+#include "support_files/towns_file.hpp"
+
+namespace benchlog {
+namespace {
+
+using Args = testing::CallArgs;
+
+// The folder a row names: "fixture" or "committed".
+std::string Folder(const std::string& file) {
+  return file == "fixture" ? testing::TestData("support/") : testing::SourceSupport();
+}
+std::string CountryFile(const std::string& file) {
+  return file == "fixture" ? testing::TestData("support/country_small.dat") : Folder(file) + kCountryFileName;
+}
+
+// The first argument of a reader of a file is the file: "fixture" or "committed".
+const testing::CallTable kCalls = {
+    {"Fips", {3, [](const Args& a) { return FipsIndex(CountryFile(a[0])).LookUp(a[1], a[2]); }}},
+    {"Counties", {2, [](const Args& a) { return Join(CountryCountyList(CountryFile(a[0]), a[1]), ","); }}},
+    {"Category", {2, [](const Args& a) {
+       return MonumentCategory(ReadCategoryTable(Folder(a[0]) + kMonumentCategoryFileName), a[1]);
+     }}},
+    {"Contributor", {2, [](const Args& a) {
+       return ContributorTable::Load(Folder(a[0]) + kContributorsFileName).CodeOf(a[1]);
+     }}},
+    {"NoteHeader", {2, [](const Args& a) {
+       const NoteHeader h = SplitNoteHeader(a[1], ContributorTable::Load(Folder(a[0]) + kContributorsFileName));
+       return h.agencyName + "|" + h.agencyCode + "|" + h.year + "|" + h.initials;
+     }}},
+    {"Town", {1, [](const Args& a) {
+       const TownLine town = ReadTownLine(a[0]);
+       char degrees[64];
+       std::snprintf(degrees, sizeof degrees, "|%.9f|%.9f", town.latitude, town.longitude);
+       return town.name + degrees;
+     }}},
+    {"Extent", {4, [](const Args& a) {
+       return TownInExtent({"T", 36.0, 79.0}, std::stod(a[0]), std::stod(a[1]), std::stod(a[2]), std::stod(a[3])) ? "1" : "0";
+     }}},
+};
+
+TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 97, kCalls); }
+
+TEST(SupportFiles, AMissingFileIsAFileNotFoundFailure) {
+  const std::string missing = testing::TestData("support/nowhere/");
+  const std::function<void()> reads[] = {
+      [&] { CountryStateList(missing + kCountryFileName); }, [&] { CountryCountyList(missing + kCountryFileName, "NC"); },
+      [&] { FipsIndex{missing + kCountryFileName}; }, [&] { ReadCategoryTable(missing + kMonumentCategoryFileName); },
+      [&] { ContributorCode(missing, "OCO"); },
+  };
+  for (const auto& read : reads) {
+    try {
+      read();
+      ADD_FAILURE() << "no failure";
+    } catch (const RuntimeFailure& failure) {
+      EXPECT_EQ(failure.number, kFileNotFound);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace benchlog
