@@ -109,32 +109,16 @@ struct IndexBuild : ::testing::Test {
   }
 };
 
-// What stands before the first header belongs to no Description: the first record starts at 1
-// even when a deleted Description's blanks lie there.
-TEST_F(IndexBuild, LeadingBlanksDoNotMoveTheFirstOffset) {
-  const std::string text = std::string(98, ' ') + "\r\n1      \r\n QQ0001  PID         -  QQ0001\r\n";
-  const auto records = SplitCrLf(Built(text));
-  ASSERT_EQ(records.size(), 3u);
-  EXPECT_EQ(RecordOffset(records[0]), 1u);
-  EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0001");
-  EXPECT_EQ(RecordOffset(records[1]), text.size());
-}
-
-TEST_F(IndexBuild, NoHeaderLineGivesOneRecordAtOffsetZero) {
-  const auto records = SplitCrLf(Built(" QQ0002  PID         -  QQ0002\r\n QQ0002  DESIGNATION -  LOOSE\r\n"));
-  ASSERT_EQ(records.size(), 3u);
-  EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0002");
-  EXPECT_EQ(IndexField(records[0], kDesignationColumn), "LOOSE" + std::string(25, ' '));
-  EXPECT_EQ(RecordOffset(records[0]), 0u);
-}
-
-// Every line counts as its length plus 2, whatever its real end: a file with bare CR ends gets
-// offsets that run ahead of the bytes.
-TEST_F(IndexBuild, CountsEveryLineAsCrLfEnded) {
-  const auto records = SplitCrLf(Built("1      \r QQ0003  PID         -  QQ0003\r1      \r QQ0004  PID         -  QQ0004\r"));
-  ASSERT_EQ(records.size(), 4u);
-  EXPECT_EQ(RecordOffset(records[1]), 1u + 9 + 32);
-  EXPECT_EQ(RecordOffset(records[2]), 78u);  // the sentinel has the real length
+// The cases of tests/data/dataset/index_build_cases.txt.
+TEST_F(IndexBuild, OffsetsOfTheCaseTable) {
+  for (const auto& c : testing::ReadRows("dataset/index_build_cases.txt", 3, '|')) {
+    const auto records = SplitCrLf(Built(c[0]));
+    const auto offsets = Split(c[3], ";");
+    ASSERT_EQ(records.size(), offsets.size() + 1) << c[1];  // and the empty text behind the last CR LF
+    EXPECT_EQ(IndexField(records[0], kPidColumn), c[1]);
+    EXPECT_EQ(IndexField(records[0], kDesignationColumn), c[2]) << c[1];
+    for (std::size_t i = 0; i < offsets.size(); ++i) EXPECT_EQ(RecordOffset(records[i]), std::stoull(offsets[i])) << c[1];
+  }
 }
 
 TEST_F(IndexBuild, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
@@ -377,22 +361,35 @@ struct Landmarks {
   }
 };
 
-TEST(GetDescription, ReadsTheSpanBetweenTwoOffsets) {
-  Landmarks data;
-  // PID, Description, bytes short: the last ends at the dataset's length, one byte short of its final LF.
-  const std::tuple<const char*, int, std::size_t> cases[] = {{"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}};
+// Reading gives the span between two offsets; blanking writes blanks and CR LF over it and keeps
+// the length. The last Description ends at the dataset's length, one byte short of its final LF,
+// which stays behind the CR LF; an empty PID is found at the start.
+TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
+  const std::tuple<const char*, int, std::size_t> cases[] = {
+      {"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}, {"", 0, 0}};
   for (const auto& [pid, description, shortBy] : cases) {
+    Landmarks data;
     std::string text;
     EXPECT_EQ(GetDescription(data.index, data.dat, pid, text), "") << pid;
     EXPECT_EQ(text, data.Span(description, shortBy)) << pid;
+    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
+    std::string expected = data.original;
+    expected.replace(kOffsets[description] - 1, text.size(), std::string(text.size() - 2, ' ') + "\r\n");
+    const std::string after = ReadWholeFile(data.dat);
+    EXPECT_EQ(after, expected) << pid;
+    if (shortBy == 0) continue;
+    EXPECT_EQ(text.substr(text.size() - 2), "E\r");
+    EXPECT_EQ(after.substr(after.size() - 5), "  \r\n\n");
   }
-  std::string text;
-  GetDescription(data.index, data.dat, "CD0008", text);
-  EXPECT_EQ(text.substr(text.size() - 2), "E\r");
 }
 
-TEST(GetDescription, FailuresAndSilentCases) {
+TEST(DescriptionFile, FailuresAndSilentCases) {
   Landmarks data;
+  EXPECT_EQ(BlankDescription(data.index, data.dat, "ZZ9999"), "PID not found!");
+  EXPECT_EQ(BlankDescription(data.index, data.folder.File("missing.dat"), "CD0002"),
+            "Unable to open .dat file for writing.");
+  EXPECT_FALSE(FileExists(data.folder.File("missing.dat")));
+  EXPECT_EQ(ReadWholeFile(data.dat), data.original);
   std::string text = "as passed";
   EXPECT_EQ(GetDescription(data.index, data.dat, "ZZ9999", text), "PID not found!");
   EXPECT_EQ(GetDescription(data.index, data.folder.File("missing.dat"), "CD0002", text), "");
@@ -412,27 +409,6 @@ TEST(GetDescription, FailuresAndSilentCases) {
   EXPECT_EQ(text, "as passed");
 }
 
-TEST(BlankDescription, OverwritesTheSpanAndKeepsTheLength) {
-  // PID, Description, bytes written (blanks and CR LF)
-  const std::tuple<const char*, int, std::size_t> cases[] = {
-      {"CD0004", 3, 481},
-      {"CD0001", 0, 466},
-      {"", 0, 466},        // an empty PID is found at the start: the first Description goes
-      {"CD0008", 7, 422},  // the last: one byte short, so its final LF stays behind the CR LF
-  };
-  for (const auto& [pid, description, span] : cases) {
-    Landmarks data;
-    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
-    std::string expected = data.original;
-    expected.replace(kOffsets[description] - 1, span, std::string(span - 2, ' ') + "\r\n");
-    EXPECT_EQ(ReadWholeFile(data.dat), expected) << pid;
-  }
-  Landmarks data;
-  BlankDescription(data.index, data.dat, "CD0008");
-  const std::string after = ReadWholeFile(data.dat);
-  EXPECT_EQ(after.substr(after.size() - 5), "  \r\n\n");
-}
-
 std::string Rec(const char* pid, std::uint64_t offset) {
   IndexRecord r;
   r.Pid = pid;
@@ -449,15 +425,6 @@ TEST(BlankDescription, ShortSpansAndAZeroOffset) {
     EXPECT_EQ(BlankDescription(index, dat, "PP0001"), "");
     EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0] << ".." << c[1];
   }
-}
-
-TEST(BlankDescription, Failures) {
-  Landmarks data;
-  EXPECT_EQ(BlankDescription(data.index, data.dat, "ZZ9999"), "PID not found!");
-  EXPECT_EQ(BlankDescription(data.index, data.folder.File("missing.dat"), "CD0002"),
-            "Unable to open .dat file for writing.");
-  EXPECT_FALSE(FileExists(data.folder.File("missing.dat")));
-  EXPECT_EQ(ReadWholeFile(data.dat), data.original);
 }
 
 TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
