@@ -182,12 +182,10 @@ TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
   o.session.dataset.markIndex.Assign({"previous"});
   o.session.menu["mnuViewHcl"].enabled = false;
   EXPECT_FALSE(o.Load());
-  const std::string stem = o.data.File("landmarks");
-  EXPECT_EQ(o.session.outputs.HclFile, stem + ".hcl");
-  EXPECT_EQ(o.session.outputs.VclFile, stem + ".vcl");
-  EXPECT_EQ(o.session.outputs.MsfFile, stem + ".msf");
-  EXPECT_EQ(o.session.outputs.ErrFile, stem + ".err");
-  EXPECT_EQ(o.session.outputs.SA6File, stem + "_SA6.txt");
+  const ExportOutputs& out = o.session.outputs;
+  EXPECT_EQ(std::vector<std::string>({out.HclFile, out.VclFile, out.MsfFile, out.ErrFile, out.SA6File}),
+            std::vector<std::string>({o.data.File("landmarks.hcl"), o.data.File("landmarks.vcl"), o.data.File("landmarks.msf"),
+                                      o.data.File("landmarks.err"), o.data.File("landmarks_SA6.txt")}));
   EXPECT_EQ(o.session.dataset.IndexFile, o.app.File("landmarks.ndx"));
   EXPECT_EQ(o.session.shell.caption, "Benchlog Version 1.0.0");
   EXPECT_EQ(o.session.dataset.markIndex.Elements(), std::vector<std::string>{"previous"});
@@ -266,8 +264,7 @@ std::string Record(const char* pid, const char* longitude, const char* designati
   return FormatIndexRecord(r);
 }
 
-// Two records as loaded from a file: XX0002 also stands in XX0001's name ("REF XX0002 OLD", from
-// column 47 of the joined text), so its look-up starts there.
+// The index of tests/data/dataset/quirk_lookup_cases.txt.
 MarkIndex QuirkIndex() {
   MarkIndex index;
   index.Assign({Record("XX0001", "104 59 31.54321", "REF XX0002 OLD", 1),
@@ -277,40 +274,18 @@ MarkIndex QuirkIndex() {
 
 TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
   const MarkIndex index = QuirkIndex();
-  struct Case {
-    const char* pid;
-    std::size_t position;
-    std::int64_t start, next;
-    const char* horz;
-    const char* vert;
-  };
-  const Case cases[] = {
-      // own record: offset at +134; the next offset read one column in ("00000500 ")
-      {"XX0001", 1, 1, 500, "1", "2"},
-      // inside the earlier name: +134 lands in XX0002's columns 35-43, "2.76543 K", which rounds
-      // to 3; +281 lands in the sentinel's blanks; the orders are letters of the name
-      {"XX0002", 47, 3, 0, "O", "D"},
-      // an empty text is found at the start
-      {"", 1, 1, 500, "1", "2"},
-  };
-  for (const auto& c : cases) {
-    const MarkLocation at = LocateMark(index, c.pid);
-    EXPECT_EQ(at.position, c.position) << c.pid;
-    EXPECT_EQ(at.start, c.start) << c.pid;
-    EXPECT_EQ(at.next, c.next) << c.pid;
-    std::string horz, vert;
-    EXPECT_EQ(GetOrdersByPid(index, c.pid, horz, vert), "") << c.pid;
-    EXPECT_EQ(horz, c.horz) << c.pid;
-    EXPECT_EQ(vert, c.vert) << c.pid;
+  for (const auto& c : testing::ReadRows("dataset/quirk_lookup_cases.txt", 4, '|')) {
+    const MarkLocation at = LocateMark(index, c[0]);
+    EXPECT_EQ(at.position, std::stoul(c[1])) << c[0];
+    if (at.position) {
+      EXPECT_EQ(at.start, std::stoll(c[2])) << c[0];
+      EXPECT_EQ(at.next, std::stoll(c[3])) << c[0];
+    }
+    std::string horz = "x", vert = "y";
+    EXPECT_EQ(GetOrdersByPid(index, c[0], horz, vert), c[6]) << c[0];
+    EXPECT_EQ(horz, c[4]) << c[0];
+    EXPECT_EQ(vert, c[5]) << c[0];
   }
-}
-
-TEST(MarkLookup, AnAbsentPidGivesBlankOrdersAndTheMessage) {
-  std::string horz = "x", vert = "y";
-  EXPECT_EQ(GetOrdersByPid(QuirkIndex(), "ZZ9999", horz, vert), "Pid Not Found!");
-  EXPECT_EQ(horz, " ");
-  EXPECT_EQ(vert, " ");
-  EXPECT_EQ(LocateMark(QuirkIndex(), "ZZ9999").position, 0u);
 }
 
 // The look-up answers exactly as a search of the joined records would, for every six characters

@@ -25,18 +25,18 @@ namespace {
 std::string Fixture() { return testing::TestData("support/") + "country_small.dat"; }
 std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
 
-TEST(CountryFile, StateListTakesEveryStateLineWhateverItsCountry) {
+// The state list takes every state line whatever its country; the index only the US part's.
+TEST(CountryFile, StateListAndStateIndex) {
   EXPECT_EQ(CountryStateList(Fixture()),
             (std::vector<std::string>{"ON ONTARIO", "NC NORTH CAROLINA", "VA VIRGINIA", "OR OREGON"}));
-}
-
-TEST(CountryFile, StateIndexHoldsOnlyTheStatesOfTheUsPart) {
   const FipsIndex index(Fixture());
   EXPECT_EQ(index.StateIndex(), "      NC0004 VA0009 OR0013 ");
   EXPECT_EQ(index.LineCount(), 18u);  // 17 lines and the empty text behind the last CR LF
 }
 
+// Every state and territory has its counties, each found by the look-up.
 TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
+  const FipsIndex index(Committed());
   const auto states = CountryStateList(Committed());
   ASSERT_EQ(states.size(), 57u);  // 50 states, DC and six territories
   EXPECT_EQ(states.front(), "AK ALASKA");
@@ -44,21 +44,15 @@ TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
   for (const auto& state : states) {
     const std::string code = state.substr(0, 2);
     EXPECT_TRUE(codes.insert(code).second) << "twice: " << state;
-    EXPECT_FALSE(CountryCountyList(Committed(), code).empty()) << state;
-  }
-  EXPECT_EQ(CountryCountyList(Committed(), "NC").size(), 100u);
-}
-
-TEST(CommittedCountryFile, EveryListedCountyIsFoundByTheLookUp) {
-  const FipsIndex index(Committed());
-  for (const auto& state : CountryStateList(Committed())) {
-    const std::string code = state.substr(0, 2);
-    for (const auto& county : CountryCountyList(Committed(), code)) {
+    const auto counties = CountryCountyList(Committed(), code);
+    EXPECT_FALSE(counties.empty()) << state;
+    for (const auto& county : counties) {
       const std::string fips = index.LookUp(code, county);
       ASSERT_EQ(fips.size(), 3u) << code << "/" << county;
       EXPECT_NE(fips, "000") << code << "/" << county;
     }
   }
+  EXPECT_EQ(CountryCountyList(Committed(), "NC").size(), 100u);
 }
 
 TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
