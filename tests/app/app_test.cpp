@@ -118,16 +118,13 @@ TEST(ClosingStep, SavesPositionOnlyInTheNormalState) {
 
 TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
   testing::MemorySettings settings;
-  testing::ManualClock clock;
-  EXPECT_EQ(SplashSeconds(settings), 5);
-  WaitForSplash(clock, SplashSeconds(settings));
-  EXPECT_EQ(clock.slept, std::chrono::seconds(5));
-
-  settings.SaveSetting("frmMain", "Top", "0");  // any saved value counts, even 0
-  EXPECT_EQ(SplashSeconds(settings), 2);
-  clock.slept = {};
-  WaitForSplash(clock, SplashSeconds(settings));
-  EXPECT_EQ(clock.slept, std::chrono::seconds(2));
+  for (const int seconds : {5, 2}) {
+    testing::ManualClock clock;
+    EXPECT_EQ(SplashSeconds(settings), seconds);
+    WaitForSplash(clock, SplashSeconds(settings));
+    EXPECT_EQ(clock.slept, std::chrono::seconds(seconds));
+    settings.SaveSetting("frmMain", "Top", "0");  // any saved value counts, even 0
+  }
 }
 
 // The cases of tests/data/app/load_files.txt.

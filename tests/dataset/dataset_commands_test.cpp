@@ -91,16 +91,11 @@ TEST_F(DatasetCommandsTest, ReindexRebuildsBehindTheProgressDialog) {
 }
 
 TEST(Reindex, NeedsADataset) {
-  struct Case {
-    const char* datFile;
-    const char* message;
-  };
-  const Case cases[] = {{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}};
-  for (const auto& c : cases) {
+  for (const auto& [datFile, message] : {std::pair{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}}) {
     Scene s;
-    s.session.dataset.DatFile = c.datFile;
+    s.session.dataset.DatFile = datFile;
     s.Run("mnuReindex");
-    EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{c.message}) << c.datFile;
+    EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{message}) << datFile;
     EXPECT_FALSE(s.fake.progress.Visible());
   }
 }
@@ -380,31 +375,23 @@ TEST(DatasetSizeLimit, OpeningPastTheLimitWarns) {
 }
 
 TEST(DatasetSizeLimit, CombineRefusesBeforeWritingAnything) {
-  struct Case {
-    const char* name;
-    std::vector<std::uint64_t> lengths;
-    const char* total;
-  };
-  const Case cases[] = {
-      {"OnePastTheLimit", {100'000'000}, "100,000,000"},
-      {"TogetherPastIt", {60'000'000, 39'999'999, 1}, "100,000,000"},
-  };
-  for (const Case& c : cases) {
+  // One file past the limit, or three together: 100,000,000 bytes either way.
+  for (const auto& lengths : {std::vector<std::uint64_t>{100'000'000}, {60'000'000, 39'999'999, 1}}) {
     Scene s;
-    for (std::size_t i = 0; i < c.lengths.size(); ++i) Sized(s.folder, "in/" + std::to_string(i) + ".dat", c.lengths[i]);
+    for (std::size_t i = 0; i < lengths.size(); ++i) Sized(s.folder, "in/" + std::to_string(i) + ".dat", lengths[i]);
     s.session.dataset.DatFilePath = s.folder.File("in/");
     const std::string target = s.folder.Write("combined.dat", "old combined\r\n");
     s.CombineAllInto(target);
     s.Run("mnuCombineDat");
-    EXPECT_EQ(ReadWholeFile(target), "old combined\r\n") << c.name;
+    EXPECT_EQ(ReadWholeFile(target), "old combined\r\n") << lengths.size();
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(s.folder.Path()), std::filesystem::directory_iterator()), 2)
-        << c.name;  // "in" and the old combined file: no work file
-    ASSERT_EQ(s.fake.ui.messages.size(), 1u) << c.name;
-    EXPECT_EQ(s.fake.ui.messages[0].text, std::string("The dataset would be ") + c.total +
+        << lengths.size();  // "in" and the old combined file: no work file
+    ASSERT_EQ(s.fake.ui.messages.size(), 1u) << lengths.size();
+    EXPECT_EQ(s.fake.ui.messages[0].text, std::string("The dataset would be 100,000,000") +
                                             " bytes long; a dataset must stay below 100,000,000 bytes. Nothing was "
                                             "written.\r\n\r\nCombine fewer files, or split the data into datasets by county.")
-        << c.name;
-    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files") << c.name;
+        << lengths.size();
+    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files") << lengths.size();
   }
 }
 

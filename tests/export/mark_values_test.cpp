@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 #include "common/format.hpp"
 #include "common/number_text.hpp"
@@ -126,24 +127,20 @@ TEST_F(MarkValuesTest, CoordinateTextPatterns) {
 }
 
 TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
-  struct Case {
-    const char* zone;
-    const char* latitude;
-    const char* longitude;
-  };
-  for (const Case c : {Case{"NC   ", "360342.56888", "0790718.55999"}, Case{"DE   ", "390930.00000", "0753115.00000"},
-                       Case{"AK 1 ", "572000.00000", "1343000.00000"}}) {
+  for (const auto& [zone, latitude, longitude] :
+       {std::tuple{"NC   ", "360342.56888", "0790718.55999"}, std::tuple{"DE   ", "390930.00000", "0753115.00000"},
+        std::tuple{"AK 1 ", "572000.00000", "1343000.00000"}}) {
     MarkRecord record;
-    record.Latitude = c.latitude;
-    record.Longitude = c.longitude;
+    record.Latitude = latitude;
+    record.Longitude = longitude;
     MarkValues values;
     values.SpcNorth = values.SpcEast = values.SpcScale = -1;
     ExportSetup setup = Grs80Setup();
-    setup.zoneLine = ZoneLine(c.zone);
+    setup.zoneLine = ZoneLine(zone);
     ComputePlaneValues(setup, lambert, record, values);
-    EXPECT_NE(values.SpcNorth, -1) << c.zone;
-    EXPECT_NE(values.SpcEast, -1) << c.zone;
-    EXPECT_NEAR(values.SpcScale, 1, 0.001) << c.zone;
+    EXPECT_NE(values.SpcNorth, -1) << zone;
+    EXPECT_NE(values.SpcEast, -1) << zone;
+    EXPECT_NEAR(values.SpcScale, 1, 0.001) << zone;
   }
 }
 
