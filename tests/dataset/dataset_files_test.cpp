@@ -423,32 +423,22 @@ std::string Lines(int count) {
 }
 
 TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
-  struct Case {
-    std::string text;
-    bool shown;
-    int max;
-  };
-  const Case cases[] = {
-      {Lines(80), false, 0},
-      {Lines(80) + "x", true, 1},
-      {Lines(250), true, 3},  // 25,000 bytes: bar to 3; lines 100 and 200 set it to 1 and 2
-  };
-  for (const auto& c : cases) {
+  // text, shown, maximum: 25,000 bytes give a bar to 3, and lines 100 and 200 set it to 1 and 2
+  for (const auto& [text, shown, max] : {std::tuple{Lines(80), false, 0}, {Lines(80) + "x", true, 1}, {Lines(250), true, 3}}) {
     TempFolder folder;
-    const std::string dat = folder.Write("d.dat", c.text);
+    const std::string dat = folder.Write("d.dat", text);
     FakePlatform fake(folder.Path());
     fake.progress.max = 0;
     EXPECT_EQ(CompressDataset(dat, fake.platform), "");
     EXPECT_FALSE(fake.progress.Visible());
-    bool shown = false;
-    for (const auto& p : fake.progressHistory) shown = shown || p.Visible();
-    EXPECT_EQ(shown, c.shown) << c.text.size();
-    if (!c.shown) continue;
+    EXPECT_EQ(std::any_of(fake.progressHistory.begin(), fake.progressHistory.end(), [](const Progress& p) { return p.Visible(); }),
+              shown) << text.size();
+    if (!shown) continue;
     const Progress& first = fake.progressHistory.front();
     EXPECT_EQ(first.caption, "Compress MKDATA file");
     EXPECT_EQ(first.lblProcessing, "Compressing File");
     EXPECT_EQ(first.lblInfo, "Please wait...");
-    EXPECT_EQ(first.max, c.max);
+    EXPECT_EQ(first.max, max);
     EXPECT_EQ(fake.ui.doEventsCalls, 1);
   }
   TempFolder folder;

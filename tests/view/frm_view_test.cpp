@@ -130,16 +130,12 @@ TEST(frmView, SaveAsFilterByKindOfText) {
 }
 
 TEST(frmView, SaveAsAsksBeforeReplacing) {
-  struct Case {
-    MsgResult answer;
-    const char* after;
-  };
-  for (const Case& c : {Case{MsgResult::No, "old"}, Case{MsgResult::Yes, "new text"}}) {
+  for (const auto& [answer, after] : {std::pair{MsgResult::No, "old"}, {MsgResult::Yes, "new text"}}) {
     ViewSetup s;
     s.view.txtViewFile = "new text";
     const std::string path = s.folder.Write("out.hcl", "old");
     s.fake.ui.fileAnswers.push_back(path);
-    s.fake.ui.msgAnswers.push_back(c.answer);
+    s.fake.ui.msgAnswers.push_back(answer);
     s.view.mnuFileSaveAs(s.fake.ui);
     ASSERT_EQ(s.fake.ui.messages.size(), 1u);
     const MessageRequest& asked = s.fake.ui.messages[0];
@@ -147,7 +143,7 @@ TEST(frmView, SaveAsAsksBeforeReplacing) {
     EXPECT_EQ(asked.buttons, MsgButtons::YesNo);
     EXPECT_EQ(asked.title, "File Save As");
     EXPECT_EQ(asked.defaultButton, 2);
-    EXPECT_EQ(ReadWholeFile(path), c.after);
+    EXPECT_EQ(ReadWholeFile(path), after);
   }
 }
 
