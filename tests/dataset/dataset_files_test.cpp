@@ -217,37 +217,30 @@ TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
 
 // The index is judged by its sentinel alone: the dataset's length.
 TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
-  struct Case {
-    const char* name;
-    std::string index;
-    bool rebuilt;
-  };
   const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003513 |\r\n";
-  const Case cases[] = {
-      {"valid", Fixture("landmarks.ndx"), false},
-      {"other dataset's length", Fixture("layouts.ndx"), true},
-      {"same length, other content", garbage, false},
-      {"empty file", "", true},
-      {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true},
-  };
-  for (const auto& c : cases) {
+  // name, index file, rebuilt
+  for (const auto& [name, index, rebuilt] : {std::tuple<const char*, std::string, bool>{"valid", Fixture("landmarks.ndx"), false},
+                                             {"other dataset's length", Fixture("layouts.ndx"), true},
+                                             {"same length, other content", garbage, false},
+                                             {"empty file", "", true},
+                                             {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true}}) {
     Opening o;
     CopyFixture(o.data, "landmarks.dat");
-    o.app.Write("landmarks.ndx", c.index);
-    EXPECT_EQ(o.Load(), c.rebuilt) << c.name;
+    o.app.Write("landmarks.ndx", index);
+    EXPECT_EQ(o.Load(), rebuilt) << name;
     EXPECT_TRUE(std::none_of(o.fake.progressHistory.begin(), o.fake.progressHistory.end(),
                              [](const Progress& p) { return p.Visible(); }))
-        << c.name;
-    EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << c.name;
+        << name;
+    EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << name;
     const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
-    EXPECT_EQ(onDisk, c.rebuilt ? Fixture("landmarks.ndx") : c.index) << c.name;
-    if (c.rebuilt) {
-      EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << c.name;
-      EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << c.name;  // built layout: 8 Descriptions
-      EXPECT_EQ(o.session.dataset.markIndex[7], "") << c.name;
+    EXPECT_EQ(onDisk, rebuilt ? Fixture("landmarks.ndx") : index) << name;
+    if (rebuilt) {
+      EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << name;
+      EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << name;  // built layout: 8 Descriptions
+      EXPECT_EQ(o.session.dataset.markIndex[7], "") << name;
     } else {
-      EXPECT_TRUE(o.fake.ui.messages.empty()) << c.name;
-      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(c.index)) << c.name;
+      EXPECT_TRUE(o.fake.ui.messages.empty()) << name;
+      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(index)) << name;
     }
   }
 }
