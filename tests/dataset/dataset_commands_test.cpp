@@ -190,14 +190,18 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   const std::string dat = Fixture("landmarks.dat");
   Open("landmarks.dat", dat);
   SelectPids({"CD0002", "CD0005"});
+  fake.ui.msgAnswers.push_back(MsgResult::No);
+  Run("mnuDelDesc");
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat);  // answered No: nothing changes
+  SelectPids({"CD0002", "CD0005"});
   fake.ui.msgAnswers.push_back(MsgResult::Yes);
   Run("mnuDelDesc");
-  ASSERT_EQ(fake.ui.messages.size(), 2u);
-  EXPECT_EQ(fake.ui.messages[0].text, "This will permanently remove these discriptions.\r\nContinue?");
-  EXPECT_EQ(fake.ui.messages[0].title, "Delete Descriptions");
-  EXPECT_EQ(fake.ui.messages[0].defaultButton, 2);
-  EXPECT_EQ(fake.ui.messages[1].text, "2 description(s) deleted!");
+  ASSERT_EQ(fake.ui.messages.size(), 3u);
+  EXPECT_EQ(fake.ui.messages[1].text, "This will permanently remove these discriptions.\r\nContinue?");
   EXPECT_EQ(fake.ui.messages[1].title, "Delete Descriptions");
+  EXPECT_EQ(fake.ui.messages[1].defaultButton, 2);
+  EXPECT_EQ(fake.ui.messages[2].text, "2 description(s) deleted!");
+  EXPECT_EQ(fake.ui.messages[2].title, "Delete Descriptions");
   // The others survive byte for byte.
   EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(0, 466) + dat.substr(888, 1799 - 889) + dat.substr(2213));
   std::string text;
@@ -206,15 +210,6 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   EXPECT_EQ(text, dat.substr(2213, 2634 - 2214));
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_FALSE(fake.ui.hourglass);
-}
-
-TEST_F(DatasetCommandsTest, DeleteAnsweredNoChangesNothing) {
-  const std::string dat = Fixture("layouts.dat");
-  Open("layouts.dat", dat);
-  SelectPids({"AB1235"});
-  fake.ui.msgAnswers.push_back(MsgResult::No);
-  Run("mnuDelDesc");
-  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat);
 }
 
 TEST_F(DatasetCommandsTest, TheSentinelsBlankItemDeletesTheFirstDescription) {
