@@ -12,7 +12,9 @@
 #include "common/runtime_failure.hpp"
 #include "common/test_support.hpp"
 #include "fakes/fakes.hpp"
+#include "common/text.hpp"
 #include "fakes/temp_folder.hpp"
+#include "fakes/test_rows.hpp"
 
 namespace benchlog {
 namespace {
@@ -24,10 +26,13 @@ using testing::MemorySettings;
 const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
                                         "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
 
+// The items of a table field, ";" between them.
+std::vector<std::string> Items(const std::string& text) { return text.empty() ? std::vector<std::string>{} : Split(text, ";"); }
+
 std::vector<long> Fields(const WindowPlacement& p) { return {p.state, p.top, p.left, p.height, p.width}; }
 
 // The program's folder, with or without its configuration and support files.
-struct AppFolder : ::testing::Test {
+struct AppScene {
   TempFolder app;
   FakePlatform fake{app.Path()};
   testing::TestSession session;
@@ -46,6 +51,8 @@ struct AppFolder : ::testing::Test {
     return CheckLoadFiles(fake.platform, config);
   }
 };
+
+struct AppFolder : ::testing::Test, AppScene {};
 
 TEST_F(AppFolder, FirstRunDefaults) {
   WriteAllFiles();
@@ -111,32 +118,27 @@ TEST(ClosingStep, SavesPositionOnlyInTheNormalState) {
 
 TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
   testing::MemorySettings settings;
-  testing::ManualClock clock;
-  EXPECT_EQ(SplashSeconds(settings), 5);
-  WaitForSplash(clock, SplashSeconds(settings));
-  EXPECT_EQ(clock.slept, std::chrono::seconds(5));
-
-  settings.SaveSetting("frmMain", "Top", "0");  // any saved value counts, even 0
-  EXPECT_EQ(SplashSeconds(settings), 2);
-  clock.slept = {};
-  WaitForSplash(clock, SplashSeconds(settings));
-  EXPECT_EQ(clock.slept, std::chrono::seconds(2));
+  for (const int seconds : {5, 2}) {
+    testing::ManualClock clock;
+    EXPECT_EQ(SplashSeconds(settings), seconds);
+    WaitForSplash(clock, SplashSeconds(settings));
+    EXPECT_EQ(clock.slept, std::chrono::seconds(seconds));
+    settings.SaveSetting("frmMain", "Top", "0");  // any saved value counts, even 0
+  }
 }
 
-TEST_F(AppFolder, MissingConfigurationReportsOnlyItself) {
-  // No support file exists either, yet only the configuration file is named.
-  EXPECT_EQ(CheckLoadFiles(fake.platform, config), "Benchlog.ini\r\n");
-  EXPECT_EQ(fake.platform.paths.supportPath, app.Path() + "/");
-}
-
-TEST_F(AppFolder, MissingSupportFilesAreListedInTestOrder) {
-  app.Write("Groups.dat", "x");
-  app.Write("Towns.txt", "x");
-  EXPECT_EQ(Check("ELLIPSOID E2=0.00669438002290\r\n"),
-            "Contrib.dat\r\nCountry.dat\r\nMonument_Category.dat\r\nZones.txt\r\nHorizontal_Datum.dat\r\n"
-            "Ellipsoid.dat\r\n");
-  WriteSupportFiles();
-  EXPECT_EQ(Check("ELLIPSOID E2=0.00669438002290\r\n"), "");
+// The cases of tests/data/app/load_files.txt.
+TEST(CheckLoadFiles, NamesTheMissingFilesOfTheCaseTable) {
+  for (const auto& c : testing::ReadRows("app/load_files.txt", 4, '|')) {
+    AppScene folder;
+    if (c[0] != "-") folder.app.Write("Benchlog.ini", c[0]);
+    if (c[1] == "all") folder.WriteSupportFiles();
+    for (const auto& name : Items(c[1] == "all" ? "" : c[1])) folder.app.Write(name, "x");
+    EXPECT_EQ(CheckLoadFiles(folder.fake.platform, folder.config), c[2]) << c[0];
+    EXPECT_EQ(folder.fake.platform.paths.supportPath, folder.app.Path() + "/");
+    EXPECT_NEAR(folder.config.ellipsoidE2, std::stod(c[3]), 1e-15) << c[0];
+    EXPECT_NEAR(folder.config.ellipsoidEp2, std::stod(c[4]), 1e-14) << c[0];
+  }
 }
 
 TEST_F(AppFolder, KeysAndValuesAreTakenInUpperCaseAndLaterLinesWin) {
@@ -166,76 +168,34 @@ TEST_F(AppFolder, SupportPathInCapitalsFindsTheFolderOfAnyCase) {
   EXPECT_NE(missing.find("Country.dat"), std::string::npos);
 }
 
-TEST_F(AppFolder, AbsentE2GivesZeroEccentricities) {
-  WriteSupportFiles();
-  EXPECT_EQ(Check("ELLIPSOID A=6378206.4\r\n"), "");
-  EXPECT_EQ(config.ellipsoidE2, 0.0);
-  EXPECT_EQ(config.ellipsoidEp2, 0.0);
-}
-
 TEST(SecondEccentricity, FailsOnTheSquareRoot) {
   EXPECT_NEAR(SecondEccentricitySquared(0.5), 1.0, 1e-15);
   EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.0); }), kDivisionByZero);
   EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.5); }), kInvalidProcedureCall);
 }
 
-struct RecentFilesTest : ::testing::Test {
-  testing::TestSession session;
-  MemorySettings settings;
-  std::vector<std::string> Visible() {
+// The cases of tests/data/app/recent_files.txt.
+TEST(RecentFiles, GiveTheListsOfTheCaseTable) {
+  for (const auto& c : testing::ReadRows("app/recent_files.txt", 5, '|')) {
+    testing::TestSession session;
+    MemorySettings settings;
+    for (const auto& entry : Items(c[0])) settings.SaveSetting("MRUList", entry.substr(0, entry.find('=')), entry.substr(entry.find('=') + 1));
+    for (const auto& step : Items(c[1])) {
+      if (step == "load") LoadMRUList(session, settings);
+      else AddToMRUList(session, settings, step.substr(4));
+    }
+    EXPECT_EQ(session.shell.MRUList, Items(c[2])) << c[1];
     std::vector<std::string> captions;
     for (int n = 1; n <= 8; ++n)
       if (session.menu[MruItemName(n)].visible) captions.push_back(session.menu[MruItemName(n)].caption);
-    return captions;
+    EXPECT_EQ(captions, Items(c[3])) << c[1];
+    EXPECT_EQ(session.menu["mnuFileMRUSep"].visible, c[4] == "1") << c[1];
+    for (const auto& entry : Items(c[5]))
+      EXPECT_EQ(settings.GetSetting("MRUList", entry.substr(0, entry.find('=')), ""), entry.substr(entry.find('=') + 1)) << c[1];
   }
-};
-
-TEST_F(RecentFilesTest, EmptyListHidesEntriesAndSeparator) {
-  LoadMRUList(session, settings);
-  EXPECT_TRUE(session.shell.MRUList.empty());
-  EXPECT_TRUE(Visible().empty());
-  EXPECT_FALSE(session.menu["mnuFileMRUSep"].visible);
 }
 
-TEST_F(RecentFilesTest, LoadKeepsNonEmptyNamesInOrder) {
-  for (const auto& [key, name] : {std::pair{"Name1", "/d/a.dat"}, {"Name2", ""}, {"Name3", "/d/c.dat"}})
-    settings.SaveSetting("MRUList", key, name);
-  LoadMRUList(session, settings);
-  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat"}));
-  EXPECT_EQ(Visible(), (std::vector<std::string>{"&1 /d/a.dat", "&2 /d/c.dat"}));
-  EXPECT_TRUE(session.menu["mnuFileMRUSep"].visible);
-}
-
-TEST_F(RecentFilesTest, NinthFilePushesTheOldestOut) {
-  for (int n = 1; n <= 9; ++n) AddToMRUList(session, settings, "/d/f" + std::to_string(n) + ".dat");
-  ASSERT_EQ(session.shell.MRUList.size(), 8u);
-  EXPECT_EQ(session.shell.MRUList.front(), "/d/f9.dat");
-  EXPECT_EQ(session.shell.MRUList.back(), "/d/f2.dat");
-  EXPECT_EQ(settings.GetSetting("MRUList", "Name8", ""), "/d/f2.dat");
-  EXPECT_EQ(Visible().size(), 8u);
-}
-
-TEST_F(RecentFilesTest, ReopenedFileMovesToTopInItsNewForm) {
-  AddToMRUList(session, settings, "/d/A.dat");
-  AddToMRUList(session, settings, "/d/b.dat");
-  AddToMRUList(session, settings, "/d/c.dat");
-  AddToMRUList(session, settings, "/d/a.dat");  // equal to the first entry in lower case
-  EXPECT_EQ(session.shell.MRUList, (std::vector<std::string>{"/d/a.dat", "/d/c.dat", "/d/b.dat"}));
-  EXPECT_EQ(Visible().front(), "&1 /d/a.dat");
-}
-
-TEST_F(RecentFilesTest, ShorterListLeavesHigherKeysInPlace) {
-  for (const auto& [key, name] : {std::pair{"Name1", "/d/a.dat"}, {"Name2", "/d/b.dat"}, {"Name5", "/d/stale.dat"}})
-    settings.SaveSetting("MRUList", key, name);
-  LoadMRUList(session, settings);  // Name5 is read as the third entry
-  AddToMRUList(session, settings, "/d/b.dat");
-  EXPECT_EQ(settings.GetSetting("MRUList", "Name1", ""), "/d/b.dat");
-  EXPECT_EQ(settings.GetSetting("MRUList", "Name2", ""), "/d/a.dat");
-  EXPECT_EQ(settings.GetSetting("MRUList", "Name3", ""), "/d/stale.dat");
-  EXPECT_EQ(settings.GetSetting("MRUList", "Name5", ""), "/d/stale.dat");
-}
-
-struct CommandsTest : AppFolder {
+struct CommandsTest : ::testing::Test, AppScene {
   CommandTable table = BuildCommandTable();
   void Run(const std::string& name) { table.Run(name, session, fake.platform); }
 };
@@ -285,6 +245,13 @@ TEST_F(CommandsTest, OpenDatAsksForADatasetAndRemembersIt) {
   EXPECT_EQ(fake.settings.GetSetting("Settings", "PhotoDir", ""), app.Path() + "/data/");
   EXPECT_EQ(session.shell.MRUList, std::vector<std::string>{path});
   EXPECT_EQ(session.menu["mnuFileMRUItem(1)"].caption, "&1 " + path);
+
+  const std::size_t shown = fake.ui.messages.size();
+  fake.ui.fileAnswers.push_back("");  // cancelled: nothing changes
+  Run("mnuOpenDat");
+  EXPECT_EQ(session.dataset.DatFile, path);
+  EXPECT_EQ(session.shell.MRUList, std::vector<std::string>{path});
+  EXPECT_EQ(fake.ui.messages.size(), shown);
 }
 
 TEST_F(CommandsTest, DatasetPathIsKeptInLowerCaseWhereThatNamesTheSameFile) {
@@ -299,14 +266,6 @@ TEST_F(CommandsTest, DatasetPathIsKeptInLowerCaseWhereThatNamesTheSameFile) {
   fake.ui.fileAnswers.push_back(app.Path() + "/Field/Site.dat");
   Run("mnuOpenDat");
   EXPECT_EQ(session.dataset.DatFile, app.Path() + "/Field/Site.dat");
-}
-
-TEST_F(CommandsTest, CancelledOpenChangesNothing) {
-  fake.ui.fileAnswers.push_back("");  // cancel
-  Run("mnuOpenDat");
-  EXPECT_TRUE(session.dataset.DatFile.empty());
-  EXPECT_TRUE(fake.ui.messages.empty());
-  EXPECT_FALSE(fake.settings.Has("Settings", "LastDatFullName"));
 }
 
 TEST_F(CommandsTest, RecentEntryReopensAndMovesToTop) {

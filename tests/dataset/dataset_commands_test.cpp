@@ -91,16 +91,11 @@ TEST_F(DatasetCommandsTest, ReindexRebuildsBehindTheProgressDialog) {
 }
 
 TEST(Reindex, NeedsADataset) {
-  struct Case {
-    const char* datFile;
-    const char* message;
-  };
-  const Case cases[] = {{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}};
-  for (const auto& c : cases) {
+  for (const auto& [datFile, message] : {std::pair{"", "No mkdata file open!"}, {"/no/such/folder/gone.dat", "File not found"}}) {
     Scene s;
-    s.session.dataset.DatFile = c.datFile;
+    s.session.dataset.DatFile = datFile;
     s.Run("mnuReindex");
-    EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{c.message}) << c.datFile;
+    EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{message}) << datFile;
     EXPECT_FALSE(s.fake.progress.Visible());
   }
 }
@@ -195,14 +190,18 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   const std::string dat = Fixture("landmarks.dat");
   Open("landmarks.dat", dat);
   SelectPids({"CD0002", "CD0005"});
+  fake.ui.msgAnswers.push_back(MsgResult::No);
+  Run("mnuDelDesc");
+  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat);  // answered No: nothing changes
+  SelectPids({"CD0002", "CD0005"});
   fake.ui.msgAnswers.push_back(MsgResult::Yes);
   Run("mnuDelDesc");
-  ASSERT_EQ(fake.ui.messages.size(), 2u);
-  EXPECT_EQ(fake.ui.messages[0].text, "This will permanently remove these discriptions.\r\nContinue?");
-  EXPECT_EQ(fake.ui.messages[0].title, "Delete Descriptions");
-  EXPECT_EQ(fake.ui.messages[0].defaultButton, 2);
-  EXPECT_EQ(fake.ui.messages[1].text, "2 description(s) deleted!");
+  ASSERT_EQ(fake.ui.messages.size(), 3u);
+  EXPECT_EQ(fake.ui.messages[1].text, "This will permanently remove these discriptions.\r\nContinue?");
   EXPECT_EQ(fake.ui.messages[1].title, "Delete Descriptions");
+  EXPECT_EQ(fake.ui.messages[1].defaultButton, 2);
+  EXPECT_EQ(fake.ui.messages[2].text, "2 description(s) deleted!");
+  EXPECT_EQ(fake.ui.messages[2].title, "Delete Descriptions");
   // The others survive byte for byte.
   EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(0, 466) + dat.substr(888, 1799 - 889) + dat.substr(2213));
   std::string text;
@@ -211,15 +210,6 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   EXPECT_EQ(text, dat.substr(2213, 2634 - 2214));
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_FALSE(fake.ui.hourglass);
-}
-
-TEST_F(DatasetCommandsTest, DeleteAnsweredNoChangesNothing) {
-  const std::string dat = Fixture("layouts.dat");
-  Open("layouts.dat", dat);
-  SelectPids({"AB1235"});
-  fake.ui.msgAnswers.push_back(MsgResult::No);
-  Run("mnuDelDesc");
-  EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat);
 }
 
 TEST_F(DatasetCommandsTest, TheSentinelsBlankItemDeletesTheFirstDescription) {
@@ -380,31 +370,23 @@ TEST(DatasetSizeLimit, OpeningPastTheLimitWarns) {
 }
 
 TEST(DatasetSizeLimit, CombineRefusesBeforeWritingAnything) {
-  struct Case {
-    const char* name;
-    std::vector<std::uint64_t> lengths;
-    const char* total;
-  };
-  const Case cases[] = {
-      {"OnePastTheLimit", {100'000'000}, "100,000,000"},
-      {"TogetherPastIt", {60'000'000, 39'999'999, 1}, "100,000,000"},
-  };
-  for (const Case& c : cases) {
+  // One file past the limit, or three together: 100,000,000 bytes either way.
+  for (const auto& lengths : {std::vector<std::uint64_t>{100'000'000}, {60'000'000, 39'999'999, 1}}) {
     Scene s;
-    for (std::size_t i = 0; i < c.lengths.size(); ++i) Sized(s.folder, "in/" + std::to_string(i) + ".dat", c.lengths[i]);
+    for (std::size_t i = 0; i < lengths.size(); ++i) Sized(s.folder, "in/" + std::to_string(i) + ".dat", lengths[i]);
     s.session.dataset.DatFilePath = s.folder.File("in/");
     const std::string target = s.folder.Write("combined.dat", "old combined\r\n");
     s.CombineAllInto(target);
     s.Run("mnuCombineDat");
-    EXPECT_EQ(ReadWholeFile(target), "old combined\r\n") << c.name;
+    EXPECT_EQ(ReadWholeFile(target), "old combined\r\n") << lengths.size();
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(s.folder.Path()), std::filesystem::directory_iterator()), 2)
-        << c.name;  // "in" and the old combined file: no work file
-    ASSERT_EQ(s.fake.ui.messages.size(), 1u) << c.name;
-    EXPECT_EQ(s.fake.ui.messages[0].text, std::string("The dataset would be ") + c.total +
+        << lengths.size();  // "in" and the old combined file: no work file
+    ASSERT_EQ(s.fake.ui.messages.size(), 1u) << lengths.size();
+    EXPECT_EQ(s.fake.ui.messages[0].text, std::string("The dataset would be 100,000,000") +
                                             " bytes long; a dataset must stay below 100,000,000 bytes. Nothing was "
                                             "written.\r\n\r\nCombine fewer files, or split the data into datasets by county.")
-        << c.name;
-    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files") << c.name;
+        << lengths.size();
+    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files") << lengths.size();
   }
 }
 

@@ -109,32 +109,16 @@ struct IndexBuild : ::testing::Test {
   }
 };
 
-// What stands before the first header belongs to no Description: the first record starts at 1
-// even when a deleted Description's blanks lie there.
-TEST_F(IndexBuild, LeadingBlanksDoNotMoveTheFirstOffset) {
-  const std::string text = std::string(98, ' ') + "\r\n1      \r\n QQ0001  PID         -  QQ0001\r\n";
-  const auto records = SplitCrLf(Built(text));
-  ASSERT_EQ(records.size(), 3u);
-  EXPECT_EQ(RecordOffset(records[0]), 1u);
-  EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0001");
-  EXPECT_EQ(RecordOffset(records[1]), text.size());
-}
-
-TEST_F(IndexBuild, NoHeaderLineGivesOneRecordAtOffsetZero) {
-  const auto records = SplitCrLf(Built(" QQ0002  PID         -  QQ0002\r\n QQ0002  DESIGNATION -  LOOSE\r\n"));
-  ASSERT_EQ(records.size(), 3u);
-  EXPECT_EQ(IndexField(records[0], kPidColumn), "QQ0002");
-  EXPECT_EQ(IndexField(records[0], kDesignationColumn), "LOOSE" + std::string(25, ' '));
-  EXPECT_EQ(RecordOffset(records[0]), 0u);
-}
-
-// Every line counts as its length plus 2, whatever its real end: a file with bare CR ends gets
-// offsets that run ahead of the bytes.
-TEST_F(IndexBuild, CountsEveryLineAsCrLfEnded) {
-  const auto records = SplitCrLf(Built("1      \r QQ0003  PID         -  QQ0003\r1      \r QQ0004  PID         -  QQ0004\r"));
-  ASSERT_EQ(records.size(), 4u);
-  EXPECT_EQ(RecordOffset(records[1]), 1u + 9 + 32);
-  EXPECT_EQ(RecordOffset(records[2]), 78u);  // the sentinel has the real length
+// The cases of tests/data/dataset/index_build_cases.txt.
+TEST_F(IndexBuild, OffsetsOfTheCaseTable) {
+  for (const auto& c : testing::ReadRows("dataset/index_build_cases.txt", 3, '|')) {
+    const auto records = SplitCrLf(Built(c[0]));
+    const auto offsets = Split(c[3], ";");
+    ASSERT_EQ(records.size(), offsets.size() + 1) << c[1];  // and the empty text behind the last CR LF
+    EXPECT_EQ(IndexField(records[0], kPidColumn), c[1]);
+    EXPECT_EQ(IndexField(records[0], kDesignationColumn), c[2]) << c[1];
+    for (std::size_t i = 0; i < offsets.size(); ++i) EXPECT_EQ(RecordOffset(records[i]), std::stoull(offsets[i])) << c[1];
+  }
 }
 
 TEST_F(IndexBuild, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
@@ -198,12 +182,10 @@ TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
   o.session.dataset.markIndex.Assign({"previous"});
   o.session.menu["mnuViewHcl"].enabled = false;
   EXPECT_FALSE(o.Load());
-  const std::string stem = o.data.File("landmarks");
-  EXPECT_EQ(o.session.outputs.HclFile, stem + ".hcl");
-  EXPECT_EQ(o.session.outputs.VclFile, stem + ".vcl");
-  EXPECT_EQ(o.session.outputs.MsfFile, stem + ".msf");
-  EXPECT_EQ(o.session.outputs.ErrFile, stem + ".err");
-  EXPECT_EQ(o.session.outputs.SA6File, stem + "_SA6.txt");
+  const ExportOutputs& out = o.session.outputs;
+  EXPECT_EQ(std::vector<std::string>({out.HclFile, out.VclFile, out.MsfFile, out.ErrFile, out.SA6File}),
+            std::vector<std::string>({o.data.File("landmarks.hcl"), o.data.File("landmarks.vcl"), o.data.File("landmarks.msf"),
+                                      o.data.File("landmarks.err"), o.data.File("landmarks_SA6.txt")}));
   EXPECT_EQ(o.session.dataset.IndexFile, o.app.File("landmarks.ndx"));
   EXPECT_EQ(o.session.shell.caption, "Benchlog Version 1.0.0");
   EXPECT_EQ(o.session.dataset.markIndex.Elements(), std::vector<std::string>{"previous"});
@@ -235,37 +217,30 @@ TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
 
 // The index is judged by its sentinel alone: the dataset's length.
 TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
-  struct Case {
-    const char* name;
-    std::string index;
-    bool rebuilt;
-  };
   const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003513 |\r\n";
-  const Case cases[] = {
-      {"valid", Fixture("landmarks.ndx"), false},
-      {"other dataset's length", Fixture("layouts.ndx"), true},
-      {"same length, other content", garbage, false},
-      {"empty file", "", true},
-      {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true},
-  };
-  for (const auto& c : cases) {
+  // name, index file, rebuilt
+  for (const auto& [name, index, rebuilt] : {std::tuple<const char*, std::string, bool>{"valid", Fixture("landmarks.ndx"), false},
+                                             {"other dataset's length", Fixture("layouts.ndx"), true},
+                                             {"same length, other content", garbage, false},
+                                             {"empty file", "", true},
+                                             {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true}}) {
     Opening o;
     CopyFixture(o.data, "landmarks.dat");
-    o.app.Write("landmarks.ndx", c.index);
-    EXPECT_EQ(o.Load(), c.rebuilt) << c.name;
+    o.app.Write("landmarks.ndx", index);
+    EXPECT_EQ(o.Load(), rebuilt) << name;
     EXPECT_TRUE(std::none_of(o.fake.progressHistory.begin(), o.fake.progressHistory.end(),
                              [](const Progress& p) { return p.Visible(); }))
-        << c.name;
-    EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << c.name;
+        << name;
+    EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << name;
     const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
-    EXPECT_EQ(onDisk, c.rebuilt ? Fixture("landmarks.ndx") : c.index) << c.name;
-    if (c.rebuilt) {
-      EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << c.name;
-      EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << c.name;  // built layout: 8 Descriptions
-      EXPECT_EQ(o.session.dataset.markIndex[7], "") << c.name;
+    EXPECT_EQ(onDisk, rebuilt ? Fixture("landmarks.ndx") : index) << name;
+    if (rebuilt) {
+      EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << name;
+      EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << name;  // built layout: 8 Descriptions
+      EXPECT_EQ(o.session.dataset.markIndex[7], "") << name;
     } else {
-      EXPECT_TRUE(o.fake.ui.messages.empty()) << c.name;
-      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(c.index)) << c.name;
+      EXPECT_TRUE(o.fake.ui.messages.empty()) << name;
+      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(index)) << name;
     }
   }
 }
@@ -282,8 +257,7 @@ std::string Record(const char* pid, const char* longitude, const char* designati
   return FormatIndexRecord(r);
 }
 
-// Two records as loaded from a file: XX0002 also stands in XX0001's name ("REF XX0002 OLD", from
-// column 47 of the joined text), so its look-up starts there.
+// The index of tests/data/dataset/quirk_lookup_cases.txt.
 MarkIndex QuirkIndex() {
   MarkIndex index;
   index.Assign({Record("XX0001", "104 59 31.54321", "REF XX0002 OLD", 1),
@@ -293,40 +267,18 @@ MarkIndex QuirkIndex() {
 
 TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
   const MarkIndex index = QuirkIndex();
-  struct Case {
-    const char* pid;
-    std::size_t position;
-    std::int64_t start, next;
-    const char* horz;
-    const char* vert;
-  };
-  const Case cases[] = {
-      // own record: offset at +134; the next offset read one column in ("00000500 ")
-      {"XX0001", 1, 1, 500, "1", "2"},
-      // inside the earlier name: +134 lands in XX0002's columns 35-43, "2.76543 K", which rounds
-      // to 3; +281 lands in the sentinel's blanks; the orders are letters of the name
-      {"XX0002", 47, 3, 0, "O", "D"},
-      // an empty text is found at the start
-      {"", 1, 1, 500, "1", "2"},
-  };
-  for (const auto& c : cases) {
-    const MarkLocation at = LocateMark(index, c.pid);
-    EXPECT_EQ(at.position, c.position) << c.pid;
-    EXPECT_EQ(at.start, c.start) << c.pid;
-    EXPECT_EQ(at.next, c.next) << c.pid;
-    std::string horz, vert;
-    EXPECT_EQ(GetOrdersByPid(index, c.pid, horz, vert), "") << c.pid;
-    EXPECT_EQ(horz, c.horz) << c.pid;
-    EXPECT_EQ(vert, c.vert) << c.pid;
+  for (const auto& c : testing::ReadRows("dataset/quirk_lookup_cases.txt", 4, '|')) {
+    const MarkLocation at = LocateMark(index, c[0]);
+    EXPECT_EQ(at.position, std::stoul(c[1])) << c[0];
+    if (at.position) {
+      EXPECT_EQ(at.start, std::stoll(c[2])) << c[0];
+      EXPECT_EQ(at.next, std::stoll(c[3])) << c[0];
+    }
+    std::string horz = "x", vert = "y";
+    EXPECT_EQ(GetOrdersByPid(index, c[0], horz, vert), c[6]) << c[0];
+    EXPECT_EQ(horz, c[4]) << c[0];
+    EXPECT_EQ(vert, c[5]) << c[0];
   }
-}
-
-TEST(MarkLookup, AnAbsentPidGivesBlankOrdersAndTheMessage) {
-  std::string horz = "x", vert = "y";
-  EXPECT_EQ(GetOrdersByPid(QuirkIndex(), "ZZ9999", horz, vert), "Pid Not Found!");
-  EXPECT_EQ(horz, " ");
-  EXPECT_EQ(vert, " ");
-  EXPECT_EQ(LocateMark(QuirkIndex(), "ZZ9999").position, 0u);
 }
 
 // The look-up answers exactly as a search of the joined records would, for every six characters
@@ -377,22 +329,35 @@ struct Landmarks {
   }
 };
 
-TEST(GetDescription, ReadsTheSpanBetweenTwoOffsets) {
-  Landmarks data;
-  // PID, Description, bytes short: the last ends at the dataset's length, one byte short of its final LF.
-  const std::tuple<const char*, int, std::size_t> cases[] = {{"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}};
+// Reading gives the span between two offsets; blanking writes blanks and CR LF over it and keeps
+// the length. The last Description ends at the dataset's length, one byte short of its final LF,
+// which stays behind the CR LF; an empty PID is found at the start.
+TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
+  const std::tuple<const char*, int, std::size_t> cases[] = {
+      {"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}, {"", 0, 0}};
   for (const auto& [pid, description, shortBy] : cases) {
+    Landmarks data;
     std::string text;
     EXPECT_EQ(GetDescription(data.index, data.dat, pid, text), "") << pid;
     EXPECT_EQ(text, data.Span(description, shortBy)) << pid;
+    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
+    std::string expected = data.original;
+    expected.replace(kOffsets[description] - 1, text.size(), std::string(text.size() - 2, ' ') + "\r\n");
+    const std::string after = ReadWholeFile(data.dat);
+    EXPECT_EQ(after, expected) << pid;
+    if (shortBy == 0) continue;
+    EXPECT_EQ(text.substr(text.size() - 2), "E\r");
+    EXPECT_EQ(after.substr(after.size() - 5), "  \r\n\n");
   }
-  std::string text;
-  GetDescription(data.index, data.dat, "CD0008", text);
-  EXPECT_EQ(text.substr(text.size() - 2), "E\r");
 }
 
-TEST(GetDescription, FailuresAndSilentCases) {
+TEST(DescriptionFile, FailuresAndSilentCases) {
   Landmarks data;
+  EXPECT_EQ(BlankDescription(data.index, data.dat, "ZZ9999"), "PID not found!");
+  EXPECT_EQ(BlankDescription(data.index, data.folder.File("missing.dat"), "CD0002"),
+            "Unable to open .dat file for writing.");
+  EXPECT_FALSE(FileExists(data.folder.File("missing.dat")));
+  EXPECT_EQ(ReadWholeFile(data.dat), data.original);
   std::string text = "as passed";
   EXPECT_EQ(GetDescription(data.index, data.dat, "ZZ9999", text), "PID not found!");
   EXPECT_EQ(GetDescription(data.index, data.folder.File("missing.dat"), "CD0002", text), "");
@@ -412,27 +377,6 @@ TEST(GetDescription, FailuresAndSilentCases) {
   EXPECT_EQ(text, "as passed");
 }
 
-TEST(BlankDescription, OverwritesTheSpanAndKeepsTheLength) {
-  // PID, Description, bytes written (blanks and CR LF)
-  const std::tuple<const char*, int, std::size_t> cases[] = {
-      {"CD0004", 3, 481},
-      {"CD0001", 0, 466},
-      {"", 0, 466},        // an empty PID is found at the start: the first Description goes
-      {"CD0008", 7, 422},  // the last: one byte short, so its final LF stays behind the CR LF
-  };
-  for (const auto& [pid, description, span] : cases) {
-    Landmarks data;
-    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
-    std::string expected = data.original;
-    expected.replace(kOffsets[description] - 1, span, std::string(span - 2, ' ') + "\r\n");
-    EXPECT_EQ(ReadWholeFile(data.dat), expected) << pid;
-  }
-  Landmarks data;
-  BlankDescription(data.index, data.dat, "CD0008");
-  const std::string after = ReadWholeFile(data.dat);
-  EXPECT_EQ(after.substr(after.size() - 5), "  \r\n\n");
-}
-
 std::string Rec(const char* pid, std::uint64_t offset) {
   IndexRecord r;
   r.Pid = pid;
@@ -449,15 +393,6 @@ TEST(BlankDescription, ShortSpansAndAZeroOffset) {
     EXPECT_EQ(BlankDescription(index, dat, "PP0001"), "");
     EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0] << ".." << c[1];
   }
-}
-
-TEST(BlankDescription, Failures) {
-  Landmarks data;
-  EXPECT_EQ(BlankDescription(data.index, data.dat, "ZZ9999"), "PID not found!");
-  EXPECT_EQ(BlankDescription(data.index, data.folder.File("missing.dat"), "CD0002"),
-            "Unable to open .dat file for writing.");
-  EXPECT_FALSE(FileExists(data.folder.File("missing.dat")));
-  EXPECT_EQ(ReadWholeFile(data.dat), data.original);
 }
 
 TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
@@ -481,32 +416,22 @@ std::string Lines(int count) {
 }
 
 TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
-  struct Case {
-    std::string text;
-    bool shown;
-    int max;
-  };
-  const Case cases[] = {
-      {Lines(80), false, 0},
-      {Lines(80) + "x", true, 1},
-      {Lines(250), true, 3},  // 25,000 bytes: bar to 3; lines 100 and 200 set it to 1 and 2
-  };
-  for (const auto& c : cases) {
+  // text, shown, maximum: 25,000 bytes give a bar to 3, and lines 100 and 200 set it to 1 and 2
+  for (const auto& [text, shown, max] : {std::tuple{Lines(80), false, 0}, {Lines(80) + "x", true, 1}, {Lines(250), true, 3}}) {
     TempFolder folder;
-    const std::string dat = folder.Write("d.dat", c.text);
+    const std::string dat = folder.Write("d.dat", text);
     FakePlatform fake(folder.Path());
     fake.progress.max = 0;
     EXPECT_EQ(CompressDataset(dat, fake.platform), "");
     EXPECT_FALSE(fake.progress.Visible());
-    bool shown = false;
-    for (const auto& p : fake.progressHistory) shown = shown || p.Visible();
-    EXPECT_EQ(shown, c.shown) << c.text.size();
-    if (!c.shown) continue;
+    EXPECT_EQ(std::any_of(fake.progressHistory.begin(), fake.progressHistory.end(), [](const Progress& p) { return p.Visible(); }),
+              shown) << text.size();
+    if (!shown) continue;
     const Progress& first = fake.progressHistory.front();
     EXPECT_EQ(first.caption, "Compress MKDATA file");
     EXPECT_EQ(first.lblProcessing, "Compressing File");
     EXPECT_EQ(first.lblInfo, "Please wait...");
-    EXPECT_EQ(first.max, c.max);
+    EXPECT_EQ(first.max, max);
     EXPECT_EQ(fake.ui.doEventsCalls, 1);
   }
   TempFolder folder;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
@@ -254,31 +255,26 @@ TEST_F(ExportCommand, AZoneOfNoKnownKindProjectsNothing) {
 // Each listing command shows its file at font size 8 and goes back to 10; a missing file has
 // its own message.
 TEST_F(ExportCommand, ViewsTheListingsAtTheirPitch) {
-  struct Case {
-    void (*command)(Session&, Platform&);
-    std::string ExportOutputs::*path;
-    const char* captionHead;
-    const char* fileType;
-    const char* missing;
-  };
-  for (const Case c : {Case{mnuViewHcl, &ExportOutputs::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
-                       Case{mnuViewVcl, &ExportOutputs::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
+  // command, listing, caption head, file type, message when missing
+  for (const auto& [command, path, captionHead, fileType, missing] :
+       {std::tuple{&mnuViewHcl, &ExportOutputs::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
+        std::tuple{&mnuViewVcl, &ExportOutputs::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
     fake.ui.messages.clear();
-    session.outputs.*c.path = Out("missing.lst");
-    c.command(session, fake.platform);
-    EXPECT_EQ(Messages(), std::vector<std::string>{c.missing});
+    session.outputs.*path = Out("missing.lst");
+    command(session, fake.platform);
+    EXPECT_EQ(Messages(), std::vector<std::string>{missing});
 
-    session.outputs.*c.path = folder.Write("shown.lst", "LISTING\r\n");
+    session.outputs.*path = folder.Write("shown.lst", "LISTING\r\n");
     int fontDuringShow = 0;
     fake.ui.modalActions.push_back([&fontDuringShow](DialogModel& m) { fontDuringShow = dynamic_cast<frmView&>(m).FontSize; });
-    c.command(session, fake.platform);
+    command(session, fake.platform);
     const frmView& view = session.forms.Get<frmView>();
     EXPECT_EQ(fontDuringShow, 8);
     EXPECT_EQ(view.FontSize, 10);
     EXPECT_EQ(view.txtViewFile, "LISTING\r\n");
-    EXPECT_EQ(view.Caption, c.captionHead + Out("shown.lst"));
+    EXPECT_EQ(view.Caption, captionHead + Out("shown.lst"));
     EXPECT_EQ(view.Tag, "View listing");
-    EXPECT_EQ(view.strFileType, c.fileType);
+    EXPECT_EQ(view.strFileType, fileType);
   }
 }
 

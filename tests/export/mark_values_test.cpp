@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 #include "common/format.hpp"
 #include "common/number_text.hpp"
@@ -76,31 +77,21 @@ TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
 }
 
 TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
-  struct Case {
-    const char *latitude, *latHemi, *longitude, *lonHemi;
-    const char *latText, *lonText;
-    double latDeg, lonDeg;
-  };
-  const Case cases[] = {
-      {"385323.12345", "N", "0770215.12345", "W", "38 53 23.12345", "077 02 15.12345", 38.889756514,
-       -77.037534292},
-      {"335200.5    ", "S", "1511230      ", "E", "33 52 00.5", "151 12 30", -33.866805556, 151.208333333},
-      // No position: the texts are blanks, trimmed away by the angle reading, and read as 0.
-      {"", "", "", "", "", "", 0, 0},
-  };
-  for (const Case& c : cases) {
+  const auto rows = ExportTableRows("position_texts.txt", 8);
+  EXPECT_EQ(rows.size(), 3u);
+  for (const auto& c : rows) {
     MarkRecord record;
-    record.Latitude = c.latitude;
-    record.LatHemi = c.latHemi;
-    record.Longitude = c.longitude;
-    record.LonHemi = c.lonHemi;
+    record.Latitude = c[0];
+    record.LatHemi = c[1];
+    record.Longitude = c[2];
+    record.LonHemi = c[3];
     record.OrthoHeight = "171.204";
     MarkValues values;
     ComputePlaneValues(ExportSetup{}, lambert, record, values);
-    EXPECT_EQ(values.LatText, c.latText);
-    EXPECT_EQ(values.LonText, c.lonText);
-    EXPECT_NEAR(values.LatDeg, c.latDeg, 1e-9) << c.latitude;
-    EXPECT_NEAR(values.LonDeg, c.lonDeg, 1e-9) << c.longitude;
+    EXPECT_EQ(values.LatText, c[4]);
+    EXPECT_EQ(values.LonText, c[5]);
+    EXPECT_NEAR(values.LatDeg, std::stod(c[6]), 1e-9) << c[0];
+    EXPECT_NEAR(values.LonDeg, std::stod(c[7]), 1e-9) << c[2];
     EXPECT_GE(values.LatRadians, 0) << "the radians keep no sign for the hemisphere";
     EXPECT_EQ(values.Elevation, 171.204f);
   }
@@ -136,24 +127,20 @@ TEST_F(MarkValuesTest, CoordinateTextPatterns) {
 }
 
 TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
-  struct Case {
-    const char* zone;
-    const char* latitude;
-    const char* longitude;
-  };
-  for (const Case c : {Case{"NC   ", "360342.56888", "0790718.55999"}, Case{"DE   ", "390930.00000", "0753115.00000"},
-                       Case{"AK 1 ", "572000.00000", "1343000.00000"}}) {
+  for (const auto& [zone, latitude, longitude] :
+       {std::tuple{"NC   ", "360342.56888", "0790718.55999"}, std::tuple{"DE   ", "390930.00000", "0753115.00000"},
+        std::tuple{"AK 1 ", "572000.00000", "1343000.00000"}}) {
     MarkRecord record;
-    record.Latitude = c.latitude;
-    record.Longitude = c.longitude;
+    record.Latitude = latitude;
+    record.Longitude = longitude;
     MarkValues values;
     values.SpcNorth = values.SpcEast = values.SpcScale = -1;
     ExportSetup setup = Grs80Setup();
-    setup.zoneLine = ZoneLine(c.zone);
+    setup.zoneLine = ZoneLine(zone);
     ComputePlaneValues(setup, lambert, record, values);
-    EXPECT_NE(values.SpcNorth, -1) << c.zone;
-    EXPECT_NE(values.SpcEast, -1) << c.zone;
-    EXPECT_NEAR(values.SpcScale, 1, 0.001) << c.zone;
+    EXPECT_NE(values.SpcNorth, -1) << zone;
+    EXPECT_NE(values.SpcEast, -1) << zone;
+    EXPECT_NEAR(values.SpcScale, 1, 0.001) << zone;
   }
 }
 

@@ -37,16 +37,6 @@ Grid Forward(const std::string& line, double latitude, double longitude) {
   return g;
 }
 
-TEST_F(GeodesyTest, TransverseMercatorOnlyForItsKinds) {
-  const Grid lambert = Forward(Zone("MD   "), RadOfDeg(39), RadOfDeg(77));
-  EXPECT_EQ(lambert.north, -1);
-  EXPECT_EQ(lambert.scale, -1);
-  double lat = -1, lon = -1, convergence = -1, scale = -1;
-  TmInverse(Grs80(), Zone("AK 1 "), lat, lon, 1000, 1000, convergence, scale);
-  EXPECT_EQ(lat, -1);
-  EXPECT_EQ(lon, -1);
-}
-
 TEST_F(GeodesyTest, TransverseMercatorWithoutScaleDenominatorFails) {
   std::string line = Zone("AL W ");
   line.replace(18, 12, std::string(12, ' '));
@@ -78,22 +68,6 @@ struct TmFigures {
   }
 };
 
-// Against PROJ (tmerc) for north and east and GeographicLib's TransverseMercatorProj for
-// convergence and scale: every transverse Mercator zone of the table, points within 2 degrees of
-// the central meridian.
-TEST_F(GeodesyTest, StatePlaneTransverseMercatorAccuracyAgainstProj) {
-  std::map<std::string, std::string> lines;
-  TmFigures figures;
-  for (const auto& r : ReadRows("geodesy/spcs_vectors.txt", 1984)) {
-    if (r[7] != "TM") continue;
-    std::string& line = lines[r[0]];
-    if (line.empty()) FindZoneLine("", r[0], line, SupportPath());
-    ASSERT_EQ(ZoneKind(line), "TM") << r[0];
-    figures.Check(line, r);
-  }
-  figures.Expect(1e-4, 1e-5, 1e-9, 1e-9);
-}
-
 // UTM zones 1 to 60 from 80 S to 84 N within 3 degrees of the central meridian, the zone lines made
 // by UtmZoneLine; false northing 0 also in the south.
 TEST_F(GeodesyTest, UtmAccuracyAgainstProj) {
@@ -121,9 +95,19 @@ Grid Project(LambertZoneConstants& zone, const std::string& line, double latDegr
   return g;
 }
 
-TEST_F(GeodesyTest, LambertOnlyForItsKind) {
+// Each projection leaves its outputs alone for a zone of another kind.
+TEST_F(GeodesyTest, EachProjectionOnlyForItsKind) {
+  EXPECT_TRUE(Forward(Zone("MD   "), RadOfDeg(39), RadOfDeg(77)).Untouched());
+  double lat = -1, lon = -1, convergence = -1, scale = -1;
+  TmInverse(Grs80(), Zone("AK 1 "), lat, lon, 1000, 1000, convergence, scale);
+  EXPECT_EQ(lat, -1);
+  EXPECT_EQ(lon, -1);
   EXPECT_TRUE(Project(lambert, Zone("AL W "), 31, 87.5).Untouched());
   EXPECT_EQ(lambert.zoneNumber, 0);
+  Grid oblique;
+  ObliqueForward(ellipsoid, Zone("AK 2 "), RadOfDeg(57), RadOfDeg(133.5), oblique.north, oblique.east,
+                 oblique.convergence, oblique.scale);
+  EXPECT_TRUE(oblique.Untouched());
 }
 
 TEST_F(GeodesyTest, LambertOnTheCentralMeridian) {
@@ -166,54 +150,45 @@ TEST_F(GeodesyTest, LambertZeroParallelLeavesStaleConstants) {
   EXPECT_EQ(stale.scale, reference.scale);
 }
 
-// Against PROJ (north, east) and GeographicLib's ConicProj (convergence, scale) for every Lambert
-// zone of the table, points spread over each zone.
-TEST_F(GeodesyTest, LambertAccuracyAgainstProj) {
+// Every zone of the table against PROJ for north and east and GeographicLib for convergence and
+// scale: transverse Mercator (tmerc, TransverseMercatorProj) within 2 degrees of the central
+// meridian; Lambert (ConicProj) spread over each zone; oblique Mercator with the EPSG definition of
+// zone 5001 on GRS 80, whose axis azimuth 323 07 48.3685 is the exact tangent -3/4 rounded, and
+// with that exact azimuth (columns 8 and 9).
+TEST_F(GeodesyTest, StatePlaneAccuracyAgainstProj) {
   std::map<std::string, std::string> lines;
-  Worst position, convergence, scale;
+  TmFigures tm;
+  Worst position, convergence, scale, obliquePosition, exactAxis, obliqueConvergence, obliqueScale;
   for (const auto& r : ReadRows("geodesy/spcs_vectors.txt", 1984)) {
-    if (r[7] != "LC") continue;
     std::string& line = lines[r[0]];
     if (line.empty()) FindZoneLine("", r[0], line, SupportPath());
-    ASSERT_EQ(ZoneKind(line), "LC") << r[0];
-    const Grid g = Project(lambert, line, std::stod(r[1]), std::stod(r[2]));
+    ASSERT_EQ(ZoneKind(line), r[7]) << r[0];
     const std::string where = r[0] + " " + r[1] + " " + r[2];
-    position.Note(std::max(std::fabs(g.north - std::stod(r[3])), std::fabs(g.east - std::stod(r[4]))), where);
-    convergence.Note(std::fabs(g.convergence - RadOfDeg(std::stod(r[5]))), where);
-    scale.Note(std::fabs(g.scale - std::stod(r[6])), where);
+    if (r[7] == "TM") tm.Check(line, r);
+    if (r[7] == "LC") {
+      const Grid g = Project(lambert, line, std::stod(r[1]), std::stod(r[2]));
+      position.Note(std::max(std::fabs(g.north - std::stod(r[3])), std::fabs(g.east - std::stod(r[4]))), where);
+      convergence.Note(std::fabs(g.convergence - RadOfDeg(std::stod(r[5]))), where);
+      scale.Note(std::fabs(g.scale - std::stod(r[6])), where);
+    }
+    if (r[7] == "OM") {
+      Grid g;
+      ObliqueForward(ellipsoid, line, RadOfDeg(std::stod(r[1])), RadOfDeg(std::stod(r[2])), g.north, g.east,
+                     g.convergence, g.scale);
+      obliquePosition.Note(std::hypot(g.north - std::stod(r[3]), g.east - std::stod(r[4])), where);
+      exactAxis.Note(std::hypot(g.north - std::stod(r[8]), g.east - std::stod(r[9])), where);
+      obliqueConvergence.Note(std::fabs(g.convergence - RadOfDeg(std::stod(r[5]))), where);
+      obliqueScale.Note(std::fabs(g.scale - std::stod(r[6])), where);
+    }
   }
+  tm.Expect(1e-4, 1e-5, 1e-9, 1e-9);
   EXPECT_LT(position.value, 1e-4) << position.where;
   EXPECT_LT(convergence.value, 1e-9) << convergence.where;
   EXPECT_LT(scale.value, 1e-9) << scale.where;
-}
-
-TEST_F(GeodesyTest, ObliqueOnlyForItsKind) {
-  double north = -1, east = -1, convergence = -1, scale = -1;
-  ObliqueForward(ellipsoid, Zone("AK 2 "), RadOfDeg(57), RadOfDeg(133.5), north, east, convergence, scale);
-  EXPECT_EQ(north, -1);
-  EXPECT_EQ(scale, -1);
-}
-
-// Against PROJ's oblique Mercator with the EPSG definition of zone 5001 on GRS 80, whose axis
-// azimuth 323 07 48.3685 is the exact tangent -3/4 rounded, and with that exact azimuth.
-TEST_F(GeodesyTest, ObliqueAccuracyAgainstProj) {
-  std::string line;
-  FindZoneLine("", "5001", line, SupportPath());
-  Worst position, exactAxis, convergence, scale;
-  for (const auto& r : ReadRows("geodesy/spcs_vectors.txt", 1984)) {
-    if (r[7] != "OM") continue;
-    double north = 0, east = 0, gamma = 0, k = 0;
-    ObliqueForward(ellipsoid, line, RadOfDeg(std::stod(r[1])), RadOfDeg(std::stod(r[2])), north, east, gamma, k);
-    const std::string where = r[1] + " " + r[2];
-    position.Note(std::hypot(north - std::stod(r[3]), east - std::stod(r[4])), where);
-    exactAxis.Note(std::hypot(north - std::stod(r[8]), east - std::stod(r[9])), where);
-    convergence.Note(std::fabs(gamma - RadOfDeg(std::stod(r[5]))), where);
-    scale.Note(std::fabs(k - std::stod(r[6])), where);
-  }
-  EXPECT_LT(position.value, 1e-3) << position.where;
+  EXPECT_LT(obliquePosition.value, 1e-3) << obliquePosition.where;
   EXPECT_LT(exactAxis.value, 5e-5) << exactAxis.where;
-  EXPECT_LT(convergence.value, 1e-9) << convergence.where;
-  EXPECT_LT(scale.value, 1e-8) << scale.where;  // PROJ prints it to 8 decimals
+  EXPECT_LT(obliqueConvergence.value, 1e-9) << obliqueConvergence.where;
+  EXPECT_LT(obliqueScale.value, 1e-8) << obliqueScale.where;  // PROJ prints it to 8 decimals
 }
 
 TEST(UtmZoneLine, LineReadsThroughTheZoneTableColumns) {

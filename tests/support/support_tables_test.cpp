@@ -25,18 +25,18 @@ namespace {
 std::string Fixture() { return testing::TestData("support/") + "country_small.dat"; }
 std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
 
-TEST(CountryFile, StateListTakesEveryStateLineWhateverItsCountry) {
+// The state list takes every state line whatever its country; the index only the US part's.
+TEST(CountryFile, StateListAndStateIndex) {
   EXPECT_EQ(CountryStateList(Fixture()),
             (std::vector<std::string>{"ON ONTARIO", "NC NORTH CAROLINA", "VA VIRGINIA", "OR OREGON"}));
-}
-
-TEST(CountryFile, StateIndexHoldsOnlyTheStatesOfTheUsPart) {
   const FipsIndex index(Fixture());
   EXPECT_EQ(index.StateIndex(), "      NC0004 VA0009 OR0013 ");
   EXPECT_EQ(index.LineCount(), 18u);  // 17 lines and the empty text behind the last CR LF
 }
 
+// Every state and territory has its counties, each found by the look-up.
 TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
+  const FipsIndex index(Committed());
   const auto states = CountryStateList(Committed());
   ASSERT_EQ(states.size(), 57u);  // 50 states, DC and six territories
   EXPECT_EQ(states.front(), "AK ALASKA");
@@ -44,21 +44,15 @@ TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
   for (const auto& state : states) {
     const std::string code = state.substr(0, 2);
     EXPECT_TRUE(codes.insert(code).second) << "twice: " << state;
-    EXPECT_FALSE(CountryCountyList(Committed(), code).empty()) << state;
-  }
-  EXPECT_EQ(CountryCountyList(Committed(), "NC").size(), 100u);
-}
-
-TEST(CommittedCountryFile, EveryListedCountyIsFoundByTheLookUp) {
-  const FipsIndex index(Committed());
-  for (const auto& state : CountryStateList(Committed())) {
-    const std::string code = state.substr(0, 2);
-    for (const auto& county : CountryCountyList(Committed(), code)) {
+    const auto counties = CountryCountyList(Committed(), code);
+    EXPECT_FALSE(counties.empty()) << state;
+    for (const auto& county : counties) {
       const std::string fips = index.LookUp(code, county);
       ASSERT_EQ(fips.size(), 3u) << code << "/" << county;
       EXPECT_NE(fips, "000") << code << "/" << county;
     }
   }
+  EXPECT_EQ(CountryCountyList(Committed(), "NC").size(), 100u);
 }
 
 TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
@@ -147,21 +141,16 @@ TEST(CommittedContributors, ResolveEveryAgencyOfTheSampleNotes) {
 std::vector<std::string> Lines(const std::string& name) { return test::ReadLines(testing::SourceSupport() + name); }
 
 TEST(SmallTables, EllipsoidsHoldTheirAxisAndFlattening) {
-  struct Case { const char* name; double a, inverseFlattening; };
-  const Case cases[] = {
-      {"GRS 80", 6378137.0, 298.257222101}, {"WGS 84", 6378137.0, 298.257223563},
-      {"CLARKE 1866", 6378206.4, 294.978698214}, {"INTL 1924", 6378388.0, 297.0},
-  };
   const auto lines = Lines("Ellipsoid.dat");
-  for (const auto& c : cases) {
+  for (const auto& c : testing::ReadRows("support/ellipsoids.txt", 4, '|')) {
     bool found = false;
     for (const auto& line : lines) {
-      if (Trim(Mid(line, 1, 12)) != c.name) continue;
+      if (Trim(Mid(line, 1, 12)) != c[0]) continue;
       found = true;
-      EXPECT_DOUBLE_EQ(Val(Mid(line, 14, 14)), c.a) << line;
-      EXPECT_DOUBLE_EQ(Val(Mid(line, 29, 15)), c.inverseFlattening) << line;
+      EXPECT_DOUBLE_EQ(Val(Mid(line, 14, 14)), std::stod(c[1])) << line;
+      EXPECT_DOUBLE_EQ(Val(Mid(line, 29, 15)), std::stod(c[2])) << line;
     }
-    EXPECT_TRUE(found) << c.name;
+    EXPECT_TRUE(found) << c[0];
   }
 }
 

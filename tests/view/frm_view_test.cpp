@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "session/command_table.hpp"
 #include "session/session.hpp"
 #include "common/files.hpp"
+#include "common/text.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
+#include "fakes/test_rows.hpp"
 #include "session/frm_view.hpp"
 
 namespace benchlog {
@@ -37,42 +41,41 @@ struct ViewSetup {
   }
 };
 
-TEST(frmView, ActivationOffersThePicturesThatExist) {
-  const std::pair<const char*, const char*> cases[] = {{"PH0001", "P"}, {"SK0002", "S"}, {"PS0003", "PS"}, {"NO0004", ""}};
-  for (const auto& [pid, menus] : cases) {
-    ViewSetup s;
-    s.view.SelStart = 55;
-    s.view.mnuViewDescVisible = true;
-    s.ShowMark(pid);
-    EXPECT_EQ(s.State(), std::string(menus) + "||0|text") << pid;
-    EXPECT_EQ(s.view.PhotoPath, s.dir + pid + "ph.jpg");
-    EXPECT_EQ(s.view.SketchPath, s.dir + pid + "sk.jpg");
-    EXPECT_EQ(s.view.HasPhoto, std::string(menus).find('P') != std::string::npos ? 1 : 0) << pid;
-    EXPECT_EQ(s.view.HasSketch, std::string(menus).find('S') != std::string::npos ? 1 : 0) << pid;
-    EXPECT_EQ(s.view.SelStart, 0u);
+std::string ThreeDescriptions() {
+  std::string text;
+  for (const char* pid : {"PH0001", "SK0002", "PS0003"}) {
+    text += "1" + std::string(6, ' ') + std::string(71, 'h') + "\r\n";
+    for (int line = 0; line < 2; ++line) text += " " + std::string(pid) + std::string(71, 'd') + "\r\n";
   }
+  return text;
 }
 
-// The sketch's caption has no PID, and PhotoFlag keeps what the photo set.
-TEST(frmView, PicturesAndTheDescriptionInTurn) {
-  ViewSetup s;
-  s.ShowMark("PH0001");
-  s.view.mnuViewPhoto(s.fake.ui);
-  EXPECT_EQ(s.State(), "D|View Photo for point PH0001|1|image PH0001ph.jpg");
-  s.view.mnuViewDesc();
-  EXPECT_EQ(s.State(), "P|View Description for point PH0001|0|text");
-
-  ViewSetup t;
-  t.ShowMark("PS0003");
-  t.view.mnuViewPhoto(t.fake.ui);
-  EXPECT_EQ(t.State(), "DS|View Photo for point PS0003|1|image PS0003ph.jpg");
-  t.view.mnuViewSketch(t.fake.ui);
-  EXPECT_EQ(t.State(), "DP|View Sketch for point|1|image PS0003sk.jpg");
-
-  ViewSetup u;
-  u.ShowMark("SK0002");
-  u.view.mnuViewSketch(u.fake.ui);
-  EXPECT_EQ(u.State(), "D|View Sketch for point|0|image SK0002sk.jpg");
+// The cases of tests/data/view/view_cases.txt.
+TEST(frmView, ActivationMenusAndClicksGiveTheStatesOfTheCaseTable) {
+  for (const auto& c : testing::ReadRows("view/view_cases.txt", 16, '|')) {
+    ViewSetup s;
+    s.view.txtViewFile = ThreeDescriptions();
+    s.view.SelStart = 55;
+    s.view.mnuViewDescVisible = true;
+    s.ShowMark(c[0]);
+    EXPECT_EQ(s.view.SelStart, 0u);
+    EXPECT_EQ(s.view.HasPhoto, FileExists(s.dir + c[0] + "ph.jpg") ? 1 : 0) << c[0];
+    EXPECT_EQ(s.view.HasSketch, FileExists(s.dir + c[0] + "sk.jpg") ? 1 : 0) << c[0];
+    std::istringstream actions(c[1]);
+    for (std::string action; actions >> action;) {
+      if (action == "photo") s.view.mnuViewPhoto(s.fake.ui);
+      if (action == "sketch") s.view.mnuViewSketch(s.fake.ui);
+      if (action == "desc") s.view.mnuViewDesc();
+      if (action == "click") {
+        actions >> s.view.SelStart;
+        s.view.FollowClick(s.dir);
+      }
+    }
+    EXPECT_EQ(s.State(), testing::JoinFields(c.begin() + 2, c.end(), "|")) << c[0] << " " << c[1];
+    EXPECT_EQ(s.view.PhotoPath, s.dir + s.view.Tag + "ph.jpg") << c[1];
+    EXPECT_EQ(s.view.SketchPath, s.dir + s.view.Tag + "sk.jpg") << c[1];
+    EXPECT_TRUE(s.fake.ui.messages.empty()) << c[1];
+  }
 }
 
 TEST(frmView, APictureThatCannotBeLoadedLeavesTheView) {
@@ -88,49 +91,6 @@ TEST(frmView, APictureThatCannotBeLoadedLeavesTheView) {
   s.view.mnuViewSketch(s.fake.ui);
   EXPECT_EQ(s.fake.ui.MessageTexts().back(), "File not found");
   EXPECT_EQ(s.State(), before);
-
-  ViewSetup t;
-  t.ShowMark("NO0004");
-  t.view.mnuViewPhoto(t.fake.ui);  // no photo: nothing happens
-  EXPECT_TRUE(t.fake.ui.messages.empty());
-  EXPECT_EQ(t.view.PhotoFlag, 0);
-}
-
-// Three Descriptions of three lines each, every line 78 characters and CR LF: line n starts at
-// byte 80 * n.
-std::string ThreeDescriptions() {
-  std::string text;
-  for (const char* pid : {"PH0001", "SK0002", "PS0003"}) {
-    text += "1" + std::string(6, ' ') + std::string(71, 'h') + "\r\n";
-    for (int line = 0; line < 2; ++line) text += " " + std::string(pid) + std::string(71, 'd') + "\r\n";
-  }
-  return text;
-}
-
-TEST(frmView, AClickShowsTheMarkOfTheLineNearIt) {
-  struct Case {
-    std::size_t selStart;
-    const char* pid;
-    const char* menus;
-  };
-  const Case cases[] = {
-      {10, "PH0001", "P"},         // first 80 characters: the line after the first CR LF
-      {0, "PH0001", "P"},
-      {7 * 80 + 19, "PS0003", "PS"},  // inside the third Description
-      {8 * 80 + 5, "PS0003", "PS"},
-      {4 * 80 + 40, "SK0002", "S"},
-      {6 * 80, "      ", ""},  // the start of a header line: its blanks
-  };
-  for (const auto& c : cases) {
-    ViewSetup s;
-    s.view.txtViewFile = ThreeDescriptions();
-    s.ShowMark("PH0001");
-    s.view.SelStart = c.selStart;
-    s.view.FollowClick(s.dir);
-    EXPECT_EQ(s.view.Tag, c.pid) << c.selStart;
-    EXPECT_EQ(s.State(), std::string(c.menus) + "|Description for " + c.pid + "|0|text") << c.selStart;
-    EXPECT_EQ(s.view.PhotoPath, s.dir + c.pid + "ph.jpg") << c.selStart;
-  }
 }
 
 TEST(frmView, AClickOnAListingOrAPlainText) {
@@ -152,20 +112,15 @@ TEST(frmView, AClickOnAListingOrAPlainText) {
 }
 
 TEST(frmView, SaveAsFilterByKindOfText) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"dat", "MkData Files (*.dat)|*.dat"},   {"hcl", "Horiz Listing (*.hcl)|*.hcl"},
-      {"vcl", "Vertical Listing (*.vcl)|*.vcl"}, {"txt", "Text File (*.txt)|*.txt"},
-      {"ndx", "Index File (*.ndx)|*.ndx"},     {"rpt", "Report File (*.rpt)|*.rpt"},
-      {"kml", ""},                             {"", ""}};
-  for (const auto& [type, filter] : cases) {
+  for (const auto& c : testing::ReadRows("view/save_filters.txt", 8, '|')) {
     ViewSetup s;
-    s.view.strFileType = type;
+    s.view.strFileType = c[0];
     s.view.txtViewFile = "text\r\n";
     s.fake.ui.fileAnswers.push_back(s.folder.File("out.txt"));
     s.view.mnuFileSaveAs(s.fake.ui);
     ASSERT_EQ(s.fake.ui.fileDialogs.size(), 1u);
     const FileDialogRequest& request = s.fake.ui.fileDialogs[0];
-    EXPECT_EQ(request.filter, filter) << type;
+    EXPECT_EQ(request.filter, testing::JoinFields(c.begin() + 1, c.end(), "|")) << c[0];
     EXPECT_EQ(request.title, "Save file as:");
     EXPECT_EQ(request.initDir, "");
     EXPECT_TRUE(request.save);
@@ -175,16 +130,12 @@ TEST(frmView, SaveAsFilterByKindOfText) {
 }
 
 TEST(frmView, SaveAsAsksBeforeReplacing) {
-  struct Case {
-    MsgResult answer;
-    const char* after;
-  };
-  for (const Case& c : {Case{MsgResult::No, "old"}, Case{MsgResult::Yes, "new text"}}) {
+  for (const auto& [answer, after] : {std::pair{MsgResult::No, "old"}, {MsgResult::Yes, "new text"}}) {
     ViewSetup s;
     s.view.txtViewFile = "new text";
     const std::string path = s.folder.Write("out.hcl", "old");
     s.fake.ui.fileAnswers.push_back(path);
-    s.fake.ui.msgAnswers.push_back(c.answer);
+    s.fake.ui.msgAnswers.push_back(answer);
     s.view.mnuFileSaveAs(s.fake.ui);
     ASSERT_EQ(s.fake.ui.messages.size(), 1u);
     const MessageRequest& asked = s.fake.ui.messages[0];
@@ -192,7 +143,7 @@ TEST(frmView, SaveAsAsksBeforeReplacing) {
     EXPECT_EQ(asked.buttons, MsgButtons::YesNo);
     EXPECT_EQ(asked.title, "File Save As");
     EXPECT_EQ(asked.defaultButton, 2);
-    EXPECT_EQ(ReadWholeFile(path), c.after);
+    EXPECT_EQ(ReadWholeFile(path), after);
   }
 }
 
@@ -244,27 +195,16 @@ TEST(frmView, LoadsItsSettingsWithDefaults) {
 }
 
 TEST(frmView, UnloadSavesThePlacement) {
-  struct Case {
-    WindowPlacement placement;
-    std::vector<std::string> saved;
-  };
-  const Case cases[] = {
-      {{kNormal, 150, 300, 6000, 7000},
-       {"frmView/Height=6000", "frmView/Left=300", "frmView/Top=150", "frmView/Width=7000", "frmView/Windowstate=0"}},
-      {{kNormal, -45, 300, 6000, 7000},
-       {"frmView/Height=6000", "frmView/Left=300", "frmView/Width=7000", "frmView/Windowstate=0"}},
-      {{kMaximized, 150, 300, 6000, 7000}, {"frmView/Windowstate=2"}},
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : testing::ReadRows("view/unload_placement.txt", 3, '|')) {
     testing::MemorySettings settings;
     frmView view;
-    view.placement = c.placement;
+    view.placement = {std::stoi(c[0]), std::stol(c[1]), std::stol(c[2]), std::stol(c[3]), std::stol(c[4])};
     view.Tag = "PH0001";
     view.mnuViewDescVisible = view.mnuViewPhotoVisible = view.mnuViewSketchVisible = true;
     view.Unload(settings);
     std::vector<std::string> saved;
     for (const auto& [key, value] : settings.values) saved.push_back(key + "=" + value);
-    EXPECT_EQ(saved, c.saved);
+    EXPECT_EQ(saved, Split(c[5], ";"));
     EXPECT_EQ(view.Tag, "");
     EXPECT_FALSE(view.mnuViewDescVisible);
     EXPECT_FALSE(view.mnuViewPhotoVisible);
