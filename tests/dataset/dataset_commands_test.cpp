@@ -232,8 +232,7 @@ TEST_F(DatasetCommandsTest, MoreThanAThousandDeletionsStopAtTheListsBound) {
   // 1001 small Descriptions of 3 lines each.
   std::string dat;
   for (int n = 0; n < 1001; ++n) {
-    char pid[8];
-    std::snprintf(pid, sizeof pid, "QQ%04d", n);
+    const std::string pid = "QQ" + std::to_string(10000 + n).substr(1);
     dat += std::string("1        header\r\n ") + pid + "  DESIGNATION -  MARK " + std::to_string(n) + "\r\n " + pid +
            "  PID         -  " + pid + "\r\n";
   }
