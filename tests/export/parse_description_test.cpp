@@ -11,6 +11,7 @@
 #include "common/text.hpp"
 #include "export/export_test_support.hpp"
 #include "fakes/test_paths.hpp"
+#include "fakes/test_rows.hpp"
 
 namespace benchlog::testing {
 namespace {
@@ -27,19 +28,6 @@ struct ParseCase {
   std::size_t start = 0;
   std::string errMsg;
 };
-
-std::string Unescape(const std::string& text) {
-  std::string out;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\' || i + 1 == text.size()) {
-      out += text[i];
-      continue;
-    }
-    const char next = text[++i];
-    out += next == 'r' ? '\r' : next == 'n' ? '\n' : next;
-  }
-  return out;
-}
 
 std::vector<ParseCase> ReadCases() {
   std::vector<ParseCase> cases;
