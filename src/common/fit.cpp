@@ -37,10 +37,4 @@ std::string FitToWidth(std::string_view text, std::size_t width) {
   return fitted;
 }
 
-std::string NullsToBlanks(std::string_view text) {
-  std::string result(text);
-  std::replace(result.begin(), result.end(), '\0', ' ');
-  return result;
-}
-
 }  // namespace benchlog

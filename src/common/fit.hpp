@@ -10,7 +10,4 @@ std::string FitToWidth(std::string_view value, std::size_t width);
 // FitToWidth appended to `out`, with no allocation of its own.
 void AppendFitToWidth(std::string& out, std::string_view value, std::size_t width);
 
-// The text with every NUL turned into a blank and nothing else changed.
-std::string NullsToBlanks(std::string_view text);
-
 }  // namespace benchlog

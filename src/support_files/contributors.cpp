@@ -40,8 +40,4 @@ std::string ContributorTable::GroupOf(std::string_view agencyName) const {
   return found == entries_.end() ? std::string() : found->second.group;
 }
 
-std::string ContributorCode(const std::string& supportPath, std::string_view agencyName) {
-  return ContributorTable::Load(supportPath + kContributorsFileName).CodeOf(agencyName);
-}
-
 }  // namespace benchlog

@@ -42,8 +42,4 @@ class ContributorTable {
 // A name as the table compares it: capitals, trimmed, runs of blanks made one blank.
 std::string NormalizeAgencyName(std::string_view agencyName);
 
-// One-off look-up in "Contrib.dat" of `supportPath` (a folder ending in a separator). Throws
-// FileNotFound when the file is missing.
-std::string ContributorCode(const std::string& supportPath, std::string_view agencyName);
-
 }  // namespace benchlog

@@ -86,10 +86,5 @@ TEST(MarkRecord, HorizontalAndVerticalFlags) {
   }
 }
 
-TEST(NullsToBlanks, ChangesNothingButNuls) {
-  EXPECT_EQ(NullsToBlanks(std::string("\0A \r\n\0", 6)), " A \r\n ");
-  EXPECT_EQ(NullsToBlanks("  x  "), "  x  ");
-}
-
 }  // namespace
 }  // namespace benchlog

@@ -58,7 +58,7 @@ TEST(SupportFiles, AMissingFileIsAFileNotFoundFailure) {
   const std::function<void()> reads[] = {
       [&] { CountryStateList(missing + kCountryFileName); }, [&] { CountryCountyList(missing + kCountryFileName, "NC"); },
       [&] { FipsIndex{missing + kCountryFileName}; }, [&] { ReadCategoryTable(missing + kMonumentCategoryFileName); },
-      [&] { ContributorCode(missing, "OCO"); },
+      [&] { ContributorTable::Load(missing + kContributorsFileName); },
   };
   for (const auto& read : reads) {
     try {

@@ -76,7 +76,7 @@ TEST(Contributors, SizeGroupAndCodeByFolder) {
   const auto table = ContributorTable::Load(testing::TestData("support/") + kContributorsFileName);
   EXPECT_EQ(table.Size(), 4u);
   EXPECT_EQ(table.GroupOf("Us Power Squadron"), "VOLUN");
-  EXPECT_EQ(ContributorCode(testing::TestData("support/"), "us coastal control office"), "CCO");
+  EXPECT_EQ(table.CodeOf("us coastal control office"), "CCO");
 }
 
 TEST(CommittedContributors, CodesFitSixColumnsAndGroupsAreKnown) {
