@@ -11,7 +11,7 @@ namespace benchlog {
 
 class LineReader {
  public:
-  static constexpr std::size_t kBufferSize = 1 << 20;  // bytes read from the file at a time
+  static constexpr std::size_t kBufferSize = 1 << 16;  // bytes read from the file at a time
 
   explicit LineReader(const std::string& path);  // throws RuntimeFailure "File not found"
   ~LineReader();
