@@ -69,9 +69,12 @@ class ExportDialogsTest : public QObject {
     QCOMPARE(Find<QComboBox>(window, "cboProjZone")->currentText(), QString("MD    1900"));
     QVERIFY(!Find<QGroupBox>(window, "fraScale")->isVisible());
 
-    Find<QCheckBox>(window, "chkMicrostation")->click();
-    QCOMPARE(model.chkMicrostation, 1);
-    QVERIFY(Find<QGroupBox>(window, "fraScale")->isVisible());
+    for (const int ticked : {1, 0, 1}) {  // the scale frame follows every click, by mouse or key
+      if (ticked == 0) QTest::keyClick(Find<QCheckBox>(window, "chkMicrostation"), Qt::Key_Space);
+      else Find<QCheckBox>(window, "chkMicrostation")->click();
+      QCOMPARE(model.chkMicrostation, ticked);
+      QCOMPARE(Find<QGroupBox>(window, "fraScale")->isVisible(), ticked == 1);
+    }
     Find<QCheckBox>(window, "chkHoriz")->click();
     Find<QRadioButton>(window, "optSelectedSta")->click();
     Find<QRadioButton>(window, "optFeet")->click();

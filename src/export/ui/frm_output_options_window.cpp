@@ -45,7 +45,10 @@ FrmOutputOptionsWindow::FrmOutputOptionsWindow(frmOutputOptions& model, QWidget*
   controls_["fraScale"] = fraScale_;
   cboScale_ = Combo(fraScale_, "cboScale", true, controls_);
   (new QVBoxLayout(fraScale_))->addWidget(cboScale_);
-  connect(microstation, &QCheckBox::toggled, this, [this] {
+  // toggled comes before stateChanged, so the model takes the new value here before its click.
+  connect(microstation, &QCheckBox::toggled, this, [this](bool checked) {
+    if (filling_) return;
+    model_.chkMicrostation = checked ? 1 : 0;
     model_.chkMicrostation_Click();
     fraScale_->setVisible(model_.fraScaleVisible);
   });
