@@ -31,6 +31,7 @@ void frmView::Load(const SettingsStore& settings) {
   placement.left = SettingNumber(settings, "Left", 0);
   placement.height = SettingNumber(settings, "Height", 8475);
   placement.width = SettingNumber(settings, "Width", 9255);
+  loaded = true;
 }
 
 void frmView::Unload(SettingsStore& settings) {
@@ -41,6 +42,7 @@ void frmView::Unload(SettingsStore& settings) {
     settings.SaveSetting(kSection, "Height", std::to_string(placement.height));
     settings.SaveSetting(kSection, "Width", std::to_string(placement.width));
   }
+  loaded = false;
   Close();
   mnuViewDescVisible = false;
   mnuViewPhotoVisible = false;
@@ -148,6 +150,7 @@ frmView& ViewForm(Session& session, Platform& platform) {
   frmView& view = session.forms.Get<frmView>();
   view.session = &session;
   view.platform = &platform;
+  if (!view.loaded) view.Load(platform.settings);  // first use: before the command sets its state
   return view;
 }
 

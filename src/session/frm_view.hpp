@@ -42,7 +42,8 @@ class frmView : public DialogModel {
   std::string PhotoPath, SketchPath;
   int HasPhoto = 0, HasSketch = 0;
   bool mnuViewDescVisible = false, mnuViewPhotoVisible = false, mnuViewSketchVisible = false;
-  WindowPlacement placement{kNormal, 0, 0, 8475, 9255};  // twips
+  WindowPlacement placement{kNormal, 0, 0, 8475, 9255};  // twips; the state is applied at every show
+  bool loaded = false;  // the settings were read (at first use) and not yet saved by an unload
 
   // Where the window's own acts reach the rest of the program: the main window's session (for
   // DatFilePath) and the platform (Ui, settings). Set by ViewForm().

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include "app/app_commands.hpp"
 #include "app/command_registry.hpp"
@@ -15,6 +16,7 @@
 #include "common/text.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
+#include "platform/window_placement.hpp"
 
 namespace benchlog {
 namespace {
@@ -116,13 +118,33 @@ TEST(ClosingStep, SavesPositionOnlyInTheNormalState) {
     EXPECT_EQ(settings.GetSetting("frmMain", key, ""), value) << key;
 }
 
+TEST(WindowPlacement, SavedGeometryIsBroughtInsideTheScreen) {
+  struct Case { ScreenRect wanted, area, expected; };
+  const Case cases[] = {
+      {{10, 20, 300, 200}, {0, 0, 800, 600}, {10, 20, 300, 200}},        // fits: stays
+      {{0, 0, 1000, 700}, {0, 0, 800, 600}, {0, 0, 800, 600}},           // larger: shrinks
+      {{700, 550, 300, 200}, {0, 0, 800, 600}, {500, 400, 300, 200}},    // sticks out: moves in
+      {{-50, -20, 300, 200}, {0, 0, 800, 600}, {0, 0, 300, 200}},        // off to the left and top
+      {{100, 100, 400, 300}, {1920, 0, 1280, 1024}, {1920, 100, 400, 300}},  // a screen to the right
+      {{5000, 5000, 4000, 3000}, {0, 24, 800, 576}, {0, 24, 800, 576}},  // below a panel
+  };
+  for (const auto& c : cases) {
+    const ScreenRect got = FitInside(c.wanted, c.area);
+    EXPECT_EQ(std::tie(got.left, got.top, got.width, got.height),
+              std::tie(c.expected.left, c.expected.top, c.expected.width, c.expected.height))
+        << c.wanted.left << "," << c.wanted.top;
+  }
+}
+
 TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
   testing::MemorySettings settings;
   for (const int seconds : {5, 2}) {
     testing::ManualClock clock;
     EXPECT_EQ(SplashSeconds(settings), seconds);
-    WaitForSplash(clock, SplashSeconds(settings));
+    int paints = 0;
+    WaitForSplash(clock, SplashSeconds(settings), [&] { ++paints; });
     EXPECT_EQ(clock.slept, std::chrono::seconds(seconds));
+    EXPECT_EQ(paints, seconds * 50);  // every 20 ms, from the start
     settings.SaveSetting("frmMain", "Top", "0");  // any saved value counts, even 0
   }
 }

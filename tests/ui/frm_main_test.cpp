@@ -2,12 +2,19 @@
 // and the saved geometry.
 #include <QAction>
 #include <QMenu>
+#include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
 #include <QtTest>
 #include <fstream>
 
 #include "app/command_registry.hpp"
+#include "app/frm_about.hpp"
 #include "app/main_window.hpp"
+#include "app/ui/about_windows.hpp"
 #include "app/menu_tree.hpp"
 #include "app/ui/frm_main.hpp"
 #include "fakes/fakes.hpp"
@@ -129,6 +136,37 @@ class FrmMainTest : public QObject {
       window.close();
     }
     QCOMPARE(fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("2"));
+    {
+      // Saved on a larger screen: brought inside this one.
+      qt::FrmMain window(session, fake.platform, commands);
+      window.ApplyPlacement({kNormal, 150000, -3000, 60000, 90000});
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      const QRect free = window.screen()->availableGeometry(), frame = window.frameGeometry();
+      QVERIFY2(free.contains(frame), qPrintable(QString("%1 %2 %3 %4").arg(frame.x()).arg(frame.y()).arg(frame.width()).arg(frame.height())));
+    }
+  }
+
+  // The About text may wrap anywhere but inside the address, at any width of the window.
+  void aboutNeverBreaksTheAddress() {
+    FrmAbout model;
+    testing::FakePlatform fake;
+    qt::FrmAboutWindow window(model, fake.platform, nullptr);
+    const auto* label = window.findChild<QLabel*>("lblDescription");
+    QTextDocument document;
+    document.setDefaultFont(label->font());
+    document.setHtml(label->text());
+    const QString address(kMaintainerAddress);
+    const int at = document.toPlainText().indexOf(address);
+    QVERIFY(at > 0);
+    for (int width = 120; width <= 900; width += 7) {
+      document.setTextWidth(width);
+      const QTextBlock block = document.findBlock(at);
+      QTextLayout* layout = block.layout();
+      const int first = layout->lineForTextPosition(at - block.position()).lineNumber();
+      const int last = layout->lineForTextPosition(at - block.position() + address.size() - 1).lineNumber();
+      QVERIFY2(first == last, qPrintable(QString::number(width)));
+    }
   }
 };
 

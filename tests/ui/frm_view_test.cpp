@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTest>
 
 #include "session/session.hpp"
@@ -110,6 +111,38 @@ class FrmViewTest : public QObject {
     QTest::keyClick(f.window.get(), Qt::Key_Escape);
     QVERIFY(!f.window->isVisible());
     QCOMPARE(f.model->Tag, std::string());
+  }
+
+  // A class view maximises the viewer over its saved normal state, every time it shows; a saved
+  // size and position from a larger screen are brought inside this one.
+  void opensMaximisedWhenTheCommandSaysAndInsideTheScreen() {
+    testing::FakePlatform fake;
+    testing::TestSession session;
+    fake.settings.SaveSetting("frmView", "Windowstate", "0");
+    fake.settings.SaveSetting("frmView", "Left", "-30000");
+    fake.settings.SaveSetting("frmView", "Top", "150000");
+    fake.settings.SaveSetting("frmView", "Width", "60000");  // 4000 pixels
+    fake.settings.SaveSetting("frmView", "Height", "45000");
+    frmView& model = ViewForm(session, fake.platform);
+    qt::FrmViewWindow window(model);
+    model.placement.state = kMaximized;
+    window.LoadFromModel();
+    window.show();
+    QVERIFY(window.isMaximized());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    window.LoadFromModel();
+    window.show();
+    QVERIFY(window.isMaximized());
+    window.close();  // unloads: the saved normal placement is read again at the next show
+
+    frmView& again = ViewForm(session, fake.platform);
+    QCOMPARE(again.placement.state, int(kMaximized));
+    again.placement.state = kNormal;
+    window.LoadFromModel();
+    window.show();
+    const QRect free = window.screen()->availableGeometry();
+    QVERIFY(!window.isMaximized());
+    QVERIFY2(free.contains(window.frameGeometry()), "the saved window lies inside the screen");
   }
 
   // The screen shows one line break per CR LF and the code page's characters; positions map back.

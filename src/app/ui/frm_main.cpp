@@ -10,6 +10,7 @@
 #include "app/menu_tree.hpp"
 #include "platform/qt/qt_ui.hpp"
 #include "platform/qt/text_codec.hpp"
+#include "platform/qt/screen_fit.hpp"
 
 namespace benchlog::qt {
 
@@ -77,8 +78,7 @@ void FrmMain::SyncFromSession() {
 }
 
 void FrmMain::ApplyPlacement(const WindowPlacement& placement) {
-  move(static_cast<int>(placement.left / kTwipsPerPixel), static_cast<int>(placement.top / kTwipsPerPixel));
-  resize(static_cast<int>(placement.width / kTwipsPerPixel), static_cast<int>(placement.height / kTwipsPerPixel));
+  PlaceOnScreen(this, PixelsOfTwips(placement.left, placement.top, placement.width, placement.height));
   if (placement.state == kMaximized) setWindowState(Qt::WindowMaximized);
   else if (placement.state == kMinimized) setWindowState(Qt::WindowMinimized);
 }

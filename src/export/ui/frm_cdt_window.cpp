@@ -15,6 +15,7 @@
 #include "export/ui/model_controls.hpp"
 #include "platform/qt/text_codec.hpp"
 #include "platform/window_placement.hpp"
+#include "platform/qt/screen_fit.hpp"
 
 namespace benchlog::qt {
 namespace {
@@ -131,7 +132,7 @@ void FrmCdtWindow::LoadFromModel() {
   FillCombo(cboUTMZone_, model_.cboUTMZoneList, model_.cboUTMZone);
   filling_ = false;
   if (model_.Top || model_.Left)
-    move(static_cast<int>(model_.Left / kTwipsPerPixel), static_cast<int>(model_.Top / kTwipsPerPixel));
+    PlaceOnScreen(this, QRect(PixelsOfTwips(model_.Left, model_.Top, 0, 0).topLeft(), size()));
 }
 
 void FrmCdtWindow::ShowModel() {

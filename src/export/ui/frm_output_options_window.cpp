@@ -14,6 +14,7 @@
 #include "export/ui/model_controls.hpp"
 #include "platform/qt/text_codec.hpp"
 #include "platform/window_placement.hpp"
+#include "platform/qt/screen_fit.hpp"
 
 namespace benchlog::qt {
 
@@ -145,7 +146,7 @@ void FrmOutputOptionsWindow::LoadFromModel() {
   fraScale_->setVisible(model_.fraScaleVisible);
   filling_ = false;
   if (model_.Top || model_.Left)
-    move(static_cast<int>(model_.Left / kTwipsPerPixel), static_cast<int>(model_.Top / kTwipsPerPixel));
+    PlaceOnScreen(this, QRect(PixelsOfTwips(model_.Left, model_.Top, 0, 0).topLeft(), size()));
 }
 
 void FrmOutputOptionsWindow::TakeOptions() {

@@ -5,6 +5,8 @@
 #include <QToolBar>
 #include <QUrl>
 
+#include "platform/qt/screen_fit.hpp"
+
 namespace benchlog::qt {
 
 HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent), browser_(new QTextBrowser(this)) {
@@ -16,7 +18,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent), browser_(new QTex
   bar->addAction("Back", browser_, &QTextBrowser::backward);
   bar->addAction("Forward", browser_, &QTextBrowser::forward);
   bar->addAction("Contents", browser_, &QTextBrowser::home);
-  resize(760, 640);
+  PlaceOnScreen(this, QRect(QPoint(80, 60), QSize(760, 640)));
 }
 
 void HelpWindow::ShowPage(const QString& path) {

@@ -9,6 +9,7 @@
 
 #include "platform/qt/qt_ui.hpp"
 #include "platform/qt/text_codec.hpp"
+#include "platform/qt/screen_fit.hpp"
 
 namespace benchlog::qt {
 namespace {
@@ -63,10 +64,9 @@ void FrmSelectPointsWindow::LoadFromModel() {
   lstPoints_->clear();
   for (const auto& item : model_.lstPoints) lstPoints_->addItem(ToQt(item));
   ShowSelection();
-  resize(static_cast<int>(model_.placement.width / kTwipsPerPixel),
-         static_cast<int>(model_.placement.height / kTwipsPerPixel));
-  if (model_.placement.top || model_.placement.left)
-    move(static_cast<int>(model_.placement.left / kTwipsPerPixel), static_cast<int>(model_.placement.top / kTwipsPerPixel));
+  const WindowPlacement& p = model_.placement;
+  if (p.top || p.left) PlaceOnScreen(this, PixelsOfTwips(p.left, p.top, p.width, p.height));
+  else resize(PixelsOfTwips(0, 0, p.width, p.height).size());
 }
 
 void FrmSelectPointsWindow::changeEvent(QEvent* event) {

@@ -15,6 +15,7 @@
 #include "session/session.hpp"
 #include "platform/platform.hpp"
 #include "platform/qt/qt_ui.hpp"
+#include "platform/qt/screen_fit.hpp"
 #include "session/ui/display_text.hpp"
 
 namespace benchlog::qt {
@@ -111,11 +112,12 @@ std::string FrmViewWindow::CheckPicture(const std::string& path) {
 }
 
 void FrmViewWindow::LoadFromModel() {
-  if (!settingsLoaded_ && model_.platform) {
-    model_.Load(model_.platform->settings);
-    ApplyPlacement();
-    settingsLoaded_ = true;
+  if (!placed_) {
+    if (model_.platform && !model_.loaded) model_.Load(model_.platform->settings);
+    PlaceOnScreen(this, PixelsOfTwips(model_.placement.left, model_.placement.top, model_.placement.width, model_.placement.height));
+    placed_ = true;
   }
+  ApplyState();
   filling_ = true;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setPointSize(model_.FontSize > 0 ? model_.FontSize : 10);
@@ -172,6 +174,7 @@ void FrmViewWindow::Clicked() {
 }
 
 void FrmViewWindow::CloseView() {
+  TakePlacement();  // hidden, not unloaded: the next show starts from the state the user left
   model_.Close();
   ShowState();
   hide();
@@ -184,7 +187,7 @@ void FrmViewWindow::closeEvent(QCloseEvent* e) {
   if (model_.platform) {
     TakePlacement();
     model_.Unload(model_.platform->settings);
-    settingsLoaded_ = false;
+    placed_ = false;
   } else {
     model_.Close();
   }
@@ -208,12 +211,12 @@ bool FrmViewWindow::eventFilter(QObject* watched, QEvent* e) {
   return ModelDialog::eventFilter(watched, e);
 }
 
-void FrmViewWindow::ApplyPlacement() {
-  const WindowPlacement& p = model_.placement;
-  resize(static_cast<int>(p.width / kTwipsPerPixel), static_cast<int>(p.height / kTwipsPerPixel));
-  move(static_cast<int>(p.left / kTwipsPerPixel), static_cast<int>(p.top / kTwipsPerPixel));
-  if (p.state == kMaximized) setWindowState(Qt::WindowMaximized);
-  if (p.state == kMinimized) setWindowState(Qt::WindowMinimized);
+// The state a command set (the class views maximise the window) or the one the window was left in.
+void FrmViewWindow::ApplyState() {
+  const Qt::WindowStates kept = windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
+  if (model_.placement.state == kMaximized) setWindowState(kept | Qt::WindowMaximized);
+  else if (model_.placement.state == kMinimized) setWindowState(kept | Qt::WindowMinimized);
+  else setWindowState(kept);
 }
 
 void FrmViewWindow::TakePlacement() {

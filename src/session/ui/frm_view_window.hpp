@@ -46,7 +46,7 @@ class FrmViewWindow : public ModelDialog {
   void Activated();
   void Clicked();
   void TakeCaret();
-  void ApplyPlacement();
+  void ApplyState();
   void TakePlacement();
   std::string HostDatFilePath() const;
   QString ShownText(int position, int length) const;  // as the widget holds it
@@ -66,7 +66,7 @@ class FrmViewWindow : public ModelDialog {
   QPixmap checkedPixmap_;
   std::string checkedPath_;
   bool filling_ = false;    // the window is being filled from the model, not edited by the user
-  bool settingsLoaded_ = false;
+  bool placed_ = false;  // the saved position and size were applied since the last unload
 };
 
 }  // namespace benchlog::qt

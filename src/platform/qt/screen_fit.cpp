@@ -1,0 +1,35 @@
+#include "platform/qt/screen_fit.hpp"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include "platform/window_placement.hpp"
+
+namespace benchlog::qt {
+
+QRect PixelsOfTwips(long left, long top, long width, long height) {
+  return QRect(static_cast<int>(left / kTwipsPerPixel), static_cast<int>(top / kTwipsPerPixel),
+               static_cast<int>(width / kTwipsPerPixel), static_cast<int>(height / kTwipsPerPixel));
+}
+
+void PlaceOnScreen(QWidget* window, const QRect& wanted) {
+  QScreen* screen = QGuiApplication::screenAt(wanted.center());
+  if (!screen) screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen();
+  if (!screen) {
+    window->resize(wanted.size());
+    window->move(wanted.topLeft());
+    return;
+  }
+  const QRect free = screen->availableGeometry();
+  // The window manager's frame lies around the client area; leave room for it. Before the window is
+  // first shown its frame is not known yet, so room for a usual title bar and border is kept.
+  QSize frame = window->frameGeometry().size() - window->geometry().size();
+  if (frame.isEmpty()) frame = QSize(16, 48);
+  const ScreenRect fitted = FitInside({wanted.left(), wanted.top(), wanted.width() + frame.width(), wanted.height() + frame.height()},
+                                      {free.left(), free.top(), free.width(), free.height()});
+  window->resize(static_cast<int>(fitted.width) - frame.width(), static_cast<int>(fitted.height) - frame.height());
+  window->move(static_cast<int>(fitted.left), static_cast<int>(fitted.top));
+}
+
+}  // namespace benchlog::qt
