@@ -77,10 +77,12 @@ void SaveMainWindowPlacement(SettingsStore& settings, const WindowPlacement& pla
 
 int SplashSeconds(const SettingsStore& settings) { return settings.GetSetting("frmMain", "Top", "").empty() ? 5 : 2; }
 
-void WaitForSplash(Clock& clock, int seconds) {
+void WaitForSplash(Clock& clock, int seconds, const std::function<void()>& keepPainted) {
   const auto end = clock.Now() + std::chrono::seconds(seconds);
-  for (auto now = clock.Now(); now < end; now = clock.Now())
-    clock.Sleep(std::min<Clock::Duration>(end - now, std::chrono::milliseconds(50)));
+  for (auto now = clock.Now(); now < end; now = clock.Now()) {
+    keepPainted();
+    clock.Sleep(std::min<Clock::Duration>(end - now, std::chrono::milliseconds(20)));
+  }
 }
 
 }  // namespace benchlog

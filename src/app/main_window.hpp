@@ -1,5 +1,6 @@
 #pragma once
 // frmMain's start and end: the load step, the splash wait and the closing step.
+#include <functional>
 #include <string>
 
 #include "session/session.hpp"
@@ -24,7 +25,8 @@ void SaveMainWindowPlacement(SettingsStore& settings, const WindowPlacement& pla
 
 // 5 seconds on the first run (no "Top" saved for frmMain yet), 2 after.
 int SplashSeconds(const SettingsStore& settings);
-// Waits that long without burning the processor.
-void WaitForSplash(Clock& clock, int seconds);
+// Waits that long without burning the processor, calling `keepPainted` at least every 20 ms so that
+// the splash window paints its texts at once and repaints whenever the desktop asks.
+void WaitForSplash(Clock& clock, int seconds, const std::function<void()>& keepPainted);
 
 }  // namespace benchlog

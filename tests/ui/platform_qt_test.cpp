@@ -3,6 +3,8 @@
 // checked through the viewer's text (frm_view_test.cpp).
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QProgressBar>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -12,6 +14,7 @@
 #include "platform/qt/qt_settings_store.hpp"
 #include "platform/qt/qt_ui.hpp"
 #include "platform/qt/single_instance.hpp"
+#include "platform/qt/text_codec.hpp"
 
 using namespace benchlog;
 
@@ -80,6 +83,22 @@ class PlatformQtTest : public QObject {
     QCOMPARE(window.findChild<QProgressBar*>("Prgb")->value(), 3);
     model.Hide();
     QVERIFY(!window.isVisible());
+  }
+
+  void messageBoxIsWideEnoughForItsTitle() {
+    const QString title = "Create Combined Dat File: a title longer than its text";
+    int width = 0;
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      QVERIFY(box);
+      width = box->width();
+      box->buttons().front()->click();
+    });
+    qt::QtUi ui;
+    ui.MsgBox(MessageRequest{"Done.", MsgButtons::Ok, MsgIcon::None, qt::FromQt(title)});
+    QFont bold = QApplication::font("QMdiSubWindowTitleBar");
+    bold.setBold(true);
+    QVERIFY2(width > QFontMetrics(bold).horizontalAdvance(title), qPrintable(QString::number(width)));
   }
 
   void secondInstanceIsRefused() {

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/frm_about.hpp"
 #include "platform/qt/text_codec.hpp"
 
 namespace benchlog::qt {
@@ -24,6 +25,17 @@ QLabel* Label(QWidget* parent, const char* name, const std::string& text, int po
   return label;
 }
 
+// The description as rich text, so that the address is never broken at its hyphen or its "@".
+QLabel* DescriptionLabel(QWidget* parent, const std::string& text) {
+  QString html = ToQt(text).toHtmlEscaped().replace("\r\n", "<br>");
+  const QString address = QString(kMaintainerAddress).toHtmlEscaped();
+  html.replace(address, "<span style=\"white-space:nowrap\">" + address + "</span>");
+  QLabel* label = Label(parent, "lblDescription", "");
+  label->setTextFormat(Qt::RichText);
+  label->setText(html);
+  return label;
+}
+
 }  // namespace
 
 FrmAboutWindow::FrmAboutWindow(FrmAbout& model, Platform& platform, QWidget* parent)
@@ -32,7 +44,7 @@ FrmAboutWindow::FrmAboutWindow(FrmAbout& model, Platform& platform, QWidget* par
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(Label(this, "lblTitle", model.lblTitle, 16));
   layout->addWidget(Label(this, "lblVersion", model.lblVersion));
-  layout->addWidget(Label(this, "lblDescription", model.lblDescription));
+  layout->addWidget(DescriptionLabel(this, model.lblDescription));
   auto* buttons = new QDialogButtonBox(this);
   auto* ok = buttons->addButton("OK", QDialogButtonBox::AcceptRole);
   ok->setObjectName("cmdOK");

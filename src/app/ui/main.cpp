@@ -59,7 +59,8 @@ int main(int argc, char** argv) {
   splash.show();
   splash.repaint();
   QApplication::processEvents();
-  WaitForSplash(clock, SplashSeconds(settings));
+  // The desktop's paint requests are served during the wait; the user's input waits for the main window.
+  WaitForSplash(clock, SplashSeconds(settings), [] { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); });
   splash.close();
 
   frmMain->ApplyPlacement(placement);

@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -19,6 +20,8 @@
 namespace benchlog::qt {
 namespace {
 
+constexpr int kTitleBarButtons = 140;  // pixels for the icon and the close, minimise and maximise buttons
+
 QMessageBox::Icon QtIcon(MsgIcon icon) {
   switch (icon) {
     case MsgIcon::Critical: return QMessageBox::Critical;
@@ -28,6 +31,18 @@ QMessageBox::Icon QtIcon(MsgIcon icon) {
     case MsgIcon::None: break;
   }
   return QMessageBox::NoIcon;
+}
+
+// A message box sizes itself by its text, and the desktop cuts a title that is wider than the box:
+// a row of the title's width (with room for the title bar's buttons) keeps the whole title shown.
+void WidenForTitle(QMessageBox& box) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (!grid) return;
+  QFont titleFont = QApplication::font("QMdiSubWindowTitleBar");
+  titleFont.setBold(true);  // many desktops draw titles in bold
+  const int width = QFontMetrics(titleFont).horizontalAdvance(box.windowTitle()) + kTitleBarButtons;
+  grid->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), grid->rowCount(), 0, 1,
+                grid->columnCount());
 }
 
 ModelDialog* WindowOf(DialogModel& model, QWidget* owner) {
@@ -83,6 +98,7 @@ MsgResult QtUi::MsgBox(const MessageRequest& request) {
       add("Cancel", QMessageBox::RejectRole, MsgResult::Cancel);
       break;
   }
+  WidenForTitle(box);
   const std::size_t preferred = static_cast<std::size_t>(std::max(1, request.defaultButton)) - 1;
   box.setDefaultButton(buttons[std::min(preferred, buttons.size() - 1)].first);
   box.exec();
