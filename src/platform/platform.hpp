@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/clock.hpp"
+#include "platform/http_transport.hpp"
 #include "platform/progress.hpp"
 #include "platform/settings_store.hpp"
 #include "platform/shell.hpp"
@@ -22,6 +23,7 @@ struct Platform {
   Shell& shell;
   Progress& dlgProcessing;
   AppPaths paths;
+  HttpTransport* http = nullptr;  // Inet1: the web service's transfer object; set by the program and the web tests
 };
 
 }  // namespace benchlog
