@@ -9,8 +9,9 @@ install(FILES ${CMAKE_CURRENT_LIST_DIR}/benchlog.desktop DESTINATION share/appli
 install(FILES ${CMAKE_CURRENT_LIST_DIR}/benchlog.svg DESTINATION share/icons/hicolor/scalable/apps)
 
 # The Debian package (scripts/package). dpkg-shlibdeps finds the libraries the executable links
-# (libc, libstdc++, Qt Core, Gui, Widgets, PrintSupport, Network, Sql); the plugins it loads at run
-# time are named here: SQLite for the database output, the image formats for .tif pictures. The
+# (libc, libstdc++, Qt Core, Gui, Widgets, PrintSupport). Qt Network and Sql are named here, since
+# the linker drops them while no code of the program calls them yet, and so are the plugins loaded
+# at run time: SQLite for the database output, the image formats for .tif pictures. The
 # GTK platform theme gives the desktop's own file dialogs on GTK desktops, the portal theme those
 # of xdg-desktop-portal.
 set(CPACK_GENERATOR DEB)
@@ -26,7 +27,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Benchlog team <benchlog-support@benchlog.example>")
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6sql6-sqlite, qt6-image-formats-plugins")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+  "libqt6network6 (>= 6.4.0), libqt6sql6 (>= 6.4.0), libqt6sql6-sqlite, qt6-image-formats-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-xdgdesktopportal-platformtheme")
 include(CPack)
