@@ -34,6 +34,8 @@ std::string VersionText() {
          std::to_string(BENCHLOG_VERSION_PATCH);
 }
 
+std::string VersionCaption() { return std::string(kAppTitle) + " Version " + VersionText(); }
+
 bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& placement) {
   auto& settings = platform.settings;
   placement.state = static_cast<int>(SettingNumber(settings, "WindowState", "0"));
@@ -44,7 +46,7 @@ bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& place
 
   InitMenuState(session.menu);
   session.config.helpFile = JoinPath(platform.paths.appPath, "Benchlog.chm");
-  session.shell.caption = std::string(kAppTitle) + " Version " + VersionText();
+  session.shell.caption = VersionCaption();
   IgnoringFailures([&] {
     session.shell.foreColor = static_cast<std::uint32_t>(Val(settings.GetSetting("Settings", "ForeColor", "0")));
     session.shell.backColor = static_cast<std::uint32_t>(Val(settings.GetSetting("Settings", "BackColor", "16777215")));

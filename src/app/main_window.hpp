@@ -13,6 +13,8 @@ inline constexpr const char* kAppTitle = "Benchlog";
 
 // "major.minor.revision" of this build.
 std::string VersionText();
+// The main window's caption before a dataset is open: "Benchlog Version 1.0.0".
+std::string VersionCaption();
 
 // The load step of the main window. Fills the session (caption, colours, dataset, configuration,
 // index, menu, recent files) and returns the window placement to show. Returns false when support

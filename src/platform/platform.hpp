@@ -12,7 +12,8 @@
 namespace benchlog {
 
 struct AppPaths {
-  std::string appPath;      // App.Path: the folder of the executable, without a last separator
+  std::string appPath;      // App.Path: the program's folder (the executable's, or the user's data folder for an
+                            // installed program), without a last separator
   std::string supportPath;  // the folder of the support files, ending in a separator
 };
 

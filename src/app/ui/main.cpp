@@ -2,12 +2,15 @@
 // main window and its menu.
 #include <QApplication>
 #include <QStandardPaths>
+#include <cstring>
+#include <iostream>
 #include <memory>
 
 #include "app/command_registry.hpp"
 #include "app/demo_dataset.hpp"
 #include "app/frm_about.hpp"
 #include "app/main_window.hpp"
+#include "app/program_folder.hpp"
 #include "app/ui/about_windows.hpp"
 #include "app/ui/all_dialogs.hpp"
 #include "app/ui/frm_main.hpp"
@@ -21,6 +24,10 @@
 using namespace benchlog;
 
 int main(int argc, char** argv) {
+  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+    std::cout << VersionCaption() << '\n';
+    return 0;
+  }
   QApplication app(argc, argv);
   QApplication::setApplicationName(kAppTitle);
   QApplication::setQuitOnLastWindowClosed(false);
@@ -36,7 +43,9 @@ int main(int argc, char** argv) {
   SystemClock clock;
   qt::QtShell shell;
   Progress progress;
-  const std::string appPath = qt::FromQt(QApplication::applicationDirPath());
+  const std::string appPath =
+      ChooseProgramFolder(qt::FromQt(QApplication::applicationDirPath()),
+                          qt::FromQt(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)));
   Platform platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath + "/"}};
 
   const QString demoFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/demo";
