@@ -67,6 +67,15 @@ std::vector<std::string> ScriptedUi::MessageTexts() const {
 FakePlatform::FakePlatform(const std::string& appPath)
     : platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath.empty() ? "" : appPath + "/"}} {
   progress.observer = [this](const Progress& p) { progressHistory.push_back(p); };
+  platform.http = &http;
+}
+
+std::string ScriptedHttp::OpenURL() {
+  requests.push_back({URL, UserName, Password});
+  if (answers.empty()) throw std::logic_error("ScriptedHttp: no answer queued for " + URL);
+  std::string body = std::move(answers.front());
+  answers.pop_front();
+  return body;
 }
 
 TestSession::TestSession() { InitMenuState(menu); }

@@ -82,6 +82,18 @@ class ScriptedUi final : public Ui {
   std::vector<std::string> MessageTexts() const;
 };
 
+// The web service as a script: each OpenURL answers the next body in the queue and records the URL
+// and the credentials it was sent with. A request with no answer queued fails the test loudly.
+class ScriptedHttp final : public HttpTransport {
+ public:
+  struct Request {
+    std::string url, userName, password;
+  };
+  std::string OpenURL() override;
+  std::deque<std::string> answers;  // "" plays a time-out
+  std::vector<Request> requests;
+};
+
 // A Platform wired to the fakes above, with App.Path in `appPath`.
 struct FakePlatform {
   explicit FakePlatform(const std::string& appPath = "");
@@ -90,6 +102,7 @@ struct FakePlatform {
   ManualClock clock;
   RecordingShell shell;
   Progress progress;
+  ScriptedHttp http;
   std::vector<Progress> progressHistory;  // a copy at every show, hide and refresh
   Platform platform;
 };
