@@ -9,6 +9,7 @@
 #include "app/recent_files.hpp"
 #include "common/files.hpp"
 #include "common/paths.hpp"
+#include "dataset/line_ends.hpp"
 #include "dataset/load_dataset_index.hpp"
 #include "session/frm_view.hpp"
 
@@ -38,7 +39,15 @@ void OpenDataset(Session& session, Platform& platform, const std::string& path) 
   platform.settings.SaveSetting("Settings", "LastDatFullName", session.dataset.DatFile);
   platform.settings.SaveSetting("Settings", "LastDatDirectory", session.dataset.DatFilePath);
   platform.settings.SaveSetting("Settings", "PhotoDir", session.dataset.DatFilePath);
+  OfferDatasetLineEndConversion(session.dataset.DatFile, platform);
   LoadDatasetIndex(session, platform);
+}
+
+void OfferDatasetLineEndConversion(const std::string& datasetPath, Platform& platform) {
+  OfferCrLfConversion(datasetPath,
+                      "If you answer No, the dataset can be viewed and exported, but every command that would "
+                      "rewrite it is refused.",
+                      platform);
 }
 
 void mnuOpenDat(Session& session, Platform& platform) {

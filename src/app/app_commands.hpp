@@ -20,7 +20,12 @@ void mnuHelpAbout(Session& session, Platform& platform);
 void mnuExit(Session& session, Platform& platform);
 
 // Makes `path` the current dataset: DatFile (lower case), the recent files, DatFilePath and the
-// settings "LastDatFullName", "LastDatDirectory" and "PhotoDir"; then loads its index.
+// settings "LastDatFullName", "LastDatDirectory" and "PhotoDir"; offers to convert a dataset with
+// LF line ends (OfferDatasetLineEndConversion); then loads its index.
 void OpenDataset(Session& session, Platform& platform, const std::string& path);
+
+// When the dataset's lines end in LF alone, asks whether to convert it to CR LF and does so on
+// Yes; on No the dataset opens as it is and the commands that would rewrite it refuse.
+void OfferDatasetLineEndConversion(const std::string& datasetPath, Platform& platform);
 
 }  // namespace benchlog

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "app/app_commands.hpp"
 #include "app/configuration_file.hpp"
 #include "app/menu_tree.hpp"
 #include "app/recent_files.hpp"
@@ -61,7 +62,10 @@ bool LoadMainWindow(Session& session, Platform& platform, WindowPlacement& place
                        MsgIcon::Critical, kAppTitle);
     return false;
   }
-  if (!session.dataset.DatFile.empty()) IgnoringFailures([&] { LoadDatasetIndex(session, platform); });
+  if (!session.dataset.DatFile.empty()) {
+    IgnoringFailures([&] { OfferDatasetLineEndConversion(session.dataset.DatFile, platform); });
+    IgnoringFailures([&] { LoadDatasetIndex(session, platform); });
+  }
   session.menu["mnuLatLoninTxt"].visible = false;
   IgnoringFailures([&] { LoadMRUList(session, settings); });
   return true;

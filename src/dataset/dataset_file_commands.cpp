@@ -12,6 +12,7 @@
 #include "session/dataset_paths.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/frm_get_file.hpp"
+#include "dataset/line_ends.hpp"
 #include "session/frm_select_points.hpp"
 #include "session/frm_view.hpp"
 
@@ -61,9 +62,28 @@ std::string CopyLines(const std::vector<std::string>& sources, const std::string
   return "";
 }
 
+// Offers the conversion of each LF-only source before anything is written; false when one stays
+// as it was, the user having been told that nothing was combined.
+bool SourcesHaveCrLfLineEnds(const std::vector<std::string>& sources, Platform& platform) {
+  for (const auto& source : sources) {
+    const LineEndAnswer answer =
+        OfferCrLfConversion(source, "If you answer No, the files are not combined.", platform);
+    if (answer == LineEndAnswer::kFailed) return false;
+    if (answer != LineEndAnswer::kDeclined) continue;
+    platform.ui.MsgBox("The files were not combined, because " + source +
+                           " has lines that end in a line feed (LF) alone and was not converted. The combined file "
+                           "was not written." + std::string(kCrLf) + std::string(kCrLf) +
+                           "Combine the files again and answer Yes to convert it.",
+                       MsgButtons::Ok, MsgIcon::Exclamation, "Combine .dat Files");
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 void mnuCompDatFile(Session& session, Platform& platform) {
+  if (RefusedForLfLineEnds(session.dataset.DatFile, platform.ui)) return;
   const std::string errorText = CompressDataset(session.dataset.DatFile, platform);
   ReindexBehindProgress(session, platform, "Reindexing file");
   platform.dlgProcessing.Hide();
@@ -117,6 +137,7 @@ void mnuCombineDat(Session& session, Platform& platform) {
 
   // The whole combined text is written beside the chosen file, then moved over it in one step.
   const std::vector<std::string> sources = dialog.SelectedPaths();
+  if (!SourcesHaveCrLfLineEnds(sources, platform)) return;
   std::string refusal = SizeLimitRefusal(SourcesLength(sources));
   if (refusal.empty()) refusal = CopyLines(sources, combined);
   if (!refusal.empty()) {
@@ -136,6 +157,7 @@ void mnuDelDesc(Session& session, Platform& platform) {
   platform.ui.ShowModal(list);
   platform.ui.Hide(list);
   if (list.Tag == "Canceled") return;
+  if (RefusedForLfLineEnds(session.dataset.DatFile, platform.ui)) return;
   if (platform.ui.MsgBox(std::string("This will permanently remove these discriptions.") + kCrLf + "Continue?",
                          MsgButtons::YesNo, MsgIcon::None, "Delete Descriptions", 2) == MsgResult::No)
     return;
