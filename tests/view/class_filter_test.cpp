@@ -29,7 +29,6 @@ const std::map<std::string, int> kClasses = {
     {"HeightMod", kHeightMod},         {"RecoveredNotPositioned", kRecoveredNotPositioned},
     {"RecoveredNotPhotographed", kRecoveredNotPhotographed}};
 
-// The cases of tests/data/view/class_filter.txt.
 TEST(ClassFilter, EachClassTestsItsColumn) {
   int cases = 0;
   for (const std::string& line : Split(ReadWholeFile(testing::TestData("view/class_filter.txt")), "\n")) {

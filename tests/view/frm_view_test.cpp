@@ -50,7 +50,6 @@ std::string ThreeDescriptions() {
   return text;
 }
 
-// The cases of tests/data/view/view_cases.txt.
 TEST(frmView, ActivationMenusAndClicksGiveTheStatesOfTheCaseTable) {
   for (const auto& c : testing::ReadRows("view/view_cases.txt", 16, '|')) {
     ViewSetup s;
@@ -210,15 +209,6 @@ TEST(frmView, UnloadSavesThePlacement) {
     EXPECT_FALSE(view.mnuViewPhotoVisible);
     EXPECT_TRUE(view.mnuViewSketchVisible);
   }
-}
-
-TEST(frmView, OneViewerPerSession) {
-  testing::TestSession session;
-  FakePlatform fake;
-  frmView& view = ViewForm(session, fake.platform);
-  EXPECT_EQ(&view, &ViewForm(session, fake.platform));
-  EXPECT_EQ(view.session, &session);
-  EXPECT_EQ(view.platform, &fake.platform);
 }
 
 }  // namespace
