@@ -109,7 +109,6 @@ struct IndexBuild : ::testing::Test {
   }
 };
 
-// The cases of tests/data/dataset/index_build_cases.txt.
 TEST_F(IndexBuild, OffsetsOfTheCaseTable) {
   for (const auto& c : testing::ReadRows("dataset/index_build_cases.txt", 3, '|')) {
     const auto records = SplitCrLf(Built(c[0]));

@@ -72,11 +72,8 @@ TEST(MarkRecord, ClearBlanksEveryField) {
   VisitFields(record, [](std::string_view name, const auto& field) { EXPECT_TRUE(field.IsBlank()) << name; });
 }
 
-// The cases of tests/data/export/control_flags.txt.
 TEST(MarkRecord, HorizontalAndVerticalFlags) {
-  const auto rows = testing::ExportTableRows("control_flags.txt", 5);
-  EXPECT_EQ(rows.size(), 9u);
-  for (const auto& c : rows) {
+  for (const auto& c : testing::ReadRows("export/control_flags.txt", 9, '|')) {
     MarkRecord record;
     record.HorizOrder = c[0];
     record.HorizType = c[1];

@@ -49,13 +49,11 @@ class MarkValuesTest : public ::testing::Test {
 // the export must take the ellipsoid height, or, when the sheet has none (FY3210), the
 // orthometric plus the geoid height, and 30 m of height move the factor by some 5e-6.
 TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
-  const auto rows = ExportTableRows("sheet_values.txt", 11);
-  EXPECT_EQ(rows.size(), 5u);
   ExportSetup setup = Grs80Setup();
   setup.zoneLine = ZoneLine("NC   ");
   setup.utmAsked = true;
   setup.utmZoneText = "17";
-  for (const auto& c : rows) {
+  for (const auto& c : ReadRows("export/sheet_values.txt", 5, '|')) {
     const MarkRecord record = Mark(c[0]);
     MarkValues values;
     values.horizontal = HasHorizontalControl(record);
@@ -77,9 +75,7 @@ TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
 }
 
 TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
-  const auto rows = ExportTableRows("position_texts.txt", 8);
-  EXPECT_EQ(rows.size(), 3u);
-  for (const auto& c : rows) {
+  for (const auto& c : ReadRows("export/position_texts.txt", 3, '|')) {
     MarkRecord record;
     record.Latitude = c[0];
     record.LatHemi = c[1];
@@ -100,9 +96,7 @@ TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
 // With no projection (a zone of no known kind) the north and east stand as the mark before left
 // them, so each pattern of tests/data/export/coordinate_texts.txt can be tried on a chosen value.
 TEST_F(MarkValuesTest, CoordinateTextPatterns) {
-  const auto rows = ExportTableRows("coordinate_texts.txt", 7);
-  EXPECT_EQ(rows.size(), 9u);
-  for (const auto& c : rows) {
+  for (const auto& c : ReadRows("export/coordinate_texts.txt", 9, '|')) {
     MarkRecord record;
     record.PosSource = c[0];
     MarkValues values;
