@@ -3,42 +3,39 @@
 #include <set>
 #include <string>
 
-#include "common/fit.hpp"
+#include "common/text.hpp"
+#include "export/export_names.hpp"
 #include "export/export_test_support.hpp"
 #include "export/parser/mark_record.hpp"
+#include "fakes/test_rows.hpp"
 
 namespace benchlog {
 namespace {
 
-TEST(FixedText, StoringCutsOrPadsToTheWidth) {
-  struct Case {
-    std::string value;
-    std::string stored;
-  };
-  const Case cases[] = {
-      {"", "    "},         {"AB", "AB  "},     {"ABCD", "ABCD"},
-      {"ABCDEF", "ABCD"},   {" A ", " A  "},    {std::string("A\0B", 3), "A B "},
-  };
-  for (const auto& c : cases) {
-    FixedText<4> field;
-    field = c.value;
-    EXPECT_EQ(field.View(), c.stored) << c.value;
-  }
+std::string Bool(bool value) { return value ? "1" : "0"; }
+
+// A 4-wide field holding `value`, cleared when `clear` is "1".
+FixedText<4> Stored(const std::string& value, const std::string& clear) {
+  FixedText<4> field;
+  field = value;
+  if (clear == "1") field.Clear();
+  return field;
 }
 
-TEST(FixedText, ComparesAsTheValueWouldBeStored) {
-  FixedText<4> field;
-  field = "12";
-  EXPECT_TRUE(field == "12");
-  EXPECT_TRUE(field == "12  ");
-  EXPECT_FALSE(field == "1");
-  EXPECT_FALSE(field == " 12");
-  EXPECT_EQ(field.Trimmed(), "12");
-  EXPECT_FALSE(field.IsBlank());
-  field.Clear();
-  EXPECT_TRUE(field.IsBlank());
-  EXPECT_TRUE(field == "");
-  EXPECT_EQ(field.Trimmed(), "");
+TEST(ExportHelpers, GiveTheResultsOfTheCaseTable) {
+  using Args = testing::CallArgs;
+  const testing::CallTable calls = {
+      {"FixedText", {2, [](const Args& a) {
+         const FixedText<4> field = Stored(a[0], a[1]);
+         return field.Str() + "|" + std::string(field.Trimmed()) + "|" + Bool(field.IsBlank());
+       }}},
+      {"FixedTextEquals", {3, [](const Args& a) { return Bool(Stored(a[0], a[1]) == a[2]); }}},
+      {"ExportNames", {1, [](const Args& a) {
+         const ExportNames n = ExportNamesOf(a[0]);
+         return Join({n.stem, n.hcl, n.vcl, n.mdb, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
+       }}},
+  };
+  testing::CheckCalls("export/cases.txt", 18, calls);
 }
 
 // Every field is named once, and the widths add up to the record's size, so no field is missing

@@ -120,10 +120,11 @@ TEST_F(MarkValuesTest, CoordinateTextPatterns) {
   }
 }
 
+// A zone whose kind is none of "LC", "TM", "OM" projects nothing: north and east stay as they were.
 TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
-  for (const auto& [zone, latitude, longitude] :
-       {std::tuple{"NC   ", "360342.56888", "0790718.55999"}, std::tuple{"DE   ", "390930.00000", "0753115.00000"},
-        std::tuple{"AK 1 ", "572000.00000", "1343000.00000"}}) {
+  for (const auto& [zone, latitude, longitude, kind] :
+       {std::tuple{"NC   ", "360342.56888", "0790718.55999", ""}, std::tuple{"DE   ", "390930.00000", "0753115.00000", ""},
+        std::tuple{"AK 1 ", "572000.00000", "1343000.00000", ""}, std::tuple{"NC   ", "360342.56888", "0790718.55999", "ZZ"}}) {
     MarkRecord record;
     record.Latitude = latitude;
     record.Longitude = longitude;
@@ -131,10 +132,11 @@ TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
     values.SpcNorth = values.SpcEast = values.SpcScale = -1;
     ExportSetup setup = Grs80Setup();
     setup.zoneLine = ZoneLine(zone);
+    if (*kind) setup.zoneLine.replace(224, 2, kind);
     ComputePlaneValues(setup, lambert, record, values);
-    EXPECT_NE(values.SpcNorth, -1) << zone;
-    EXPECT_NE(values.SpcEast, -1) << zone;
-    EXPECT_NEAR(values.SpcScale, 1, 0.001) << zone;
+    EXPECT_EQ(values.SpcNorth == -1, *kind != 0) << zone << kind;
+    EXPECT_EQ(values.SpcEast == -1, *kind != 0) << zone << kind;
+    EXPECT_NEAR(values.SpcScale, *kind ? -1 : 1, 0.001) << zone;
   }
 }
 
