@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <set>
 #include <string>
 
 #include "common/text.hpp"
 #include "export/export_names.hpp"
+#include "export/listing_lines.hpp"
 #include "export/export_test_support.hpp"
 #include "export/parser/mark_record.hpp"
 #include "fakes/test_rows.hpp"
@@ -30,12 +32,17 @@ TEST(ExportHelpers, GiveTheResultsOfTheCaseTable) {
          return field.Str() + "|" + std::string(field.Trimmed()) + "|" + Bool(field.IsBlank());
        }}},
       {"FixedTextEquals", {3, [](const Args& a) { return Bool(Stored(a[0], a[1]) == a[2]); }}},
+      {"ElevationInFeet", {1, [](const Args& a) {
+         char text[32];
+         std::snprintf(text, sizeof text, "%.9g", static_cast<double>(ElevationInFeet(std::stof(a[0]))));
+         return std::string(text);
+       }}},
       {"ExportNames", {1, [](const Args& a) {
          const ExportNames n = ExportNamesOf(a[0]);
          return Join({n.stem, n.hcl, n.vcl, n.mdb, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
        }}},
   };
-  testing::CheckCalls("export/cases.txt", 18, calls);
+  testing::CheckCalls("export/cases.txt", 21, calls);
 }
 
 // Every field is named once, and the widths add up to the record's size, so no field is missing

@@ -29,12 +29,22 @@ std::string CountryFile(const std::string& file) {
 const testing::CallTable kCalls = {
     {"Fips", {3, [](const Args& a) { return FipsIndex(CountryFile(a[0])).LookUp(a[1], a[2]); }}},
     {"States", {1, [](const Args& a) { return Join(CountryStateList(CountryFile(a[0])), ","); }}},
+    {"StateIndex", {1, [](const Args& a) {
+       const FipsIndex index(CountryFile(a[0]));
+       return index.StateIndex() + "|" + std::to_string(index.LineCount());
+     }}},
     {"Counties", {2, [](const Args& a) { return Join(CountryCountyList(CountryFile(a[0]), a[1]), ","); }}},
     {"Category", {2, [](const Args& a) {
        return MonumentCategory(ReadCategoryTable(Folder(a[0]) + kMonumentCategoryFileName), a[1]);
      }}},
     {"Contributor", {2, [](const Args& a) {
        return ContributorTable::Load(Folder(a[0]) + kContributorsFileName).CodeOf(a[1]);
+     }}},
+    {"ContributorGroup", {2, [](const Args& a) {
+       return ContributorTable::Load(Folder(a[0]) + kContributorsFileName).GroupOf(a[1]);
+     }}},
+    {"ContributorCount", {1, [](const Args& a) {
+       return std::to_string(ContributorTable::Load(Folder(a[0]) + kContributorsFileName).Size());
      }}},
     {"NoteHeader", {2, [](const Args& a) {
        const NoteHeader h = SplitNoteHeader(a[1], ContributorTable::Load(Folder(a[0]) + kContributorsFileName));
@@ -51,7 +61,7 @@ const testing::CallTable kCalls = {
      }}},
 };
 
-TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 102, kCalls); }
+TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 107, kCalls); }
 
 }  // namespace
 }  // namespace benchlog

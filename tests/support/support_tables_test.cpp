@@ -22,17 +22,7 @@
 namespace benchlog {
 namespace {
 
-std::string Fixture() { return testing::TestData("support/") + "country_small.dat"; }
 std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
-
-// The state list takes every state line whatever its country; the index only the US part's.
-TEST(CountryFile, StateListAndStateIndex) {
-  EXPECT_EQ(CountryStateList(Fixture()),
-            (std::vector<std::string>{"ON ONTARIO", "NC NORTH CAROLINA", "VA VIRGINIA", "OR OREGON"}));
-  const FipsIndex index(Fixture());
-  EXPECT_EQ(index.StateIndex(), "      NC0004 VA0009 OR0013 ");
-  EXPECT_EQ(index.LineCount(), 18u);  // 17 lines and the empty text behind the last CR LF
-}
 
 // Every state and territory has its counties, each found by the look-up.
 TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
@@ -70,13 +60,6 @@ TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
     const bool landmark = code.size() == 2 && IsNumeric(code) && code != "71";
     EXPECT_EQ(category == "L", landmark) << "marker code " << code;
   }
-}
-
-TEST(Contributors, SizeGroupAndCodeByFolder) {
-  const auto table = ContributorTable::Load(testing::TestData("support/") + kContributorsFileName);
-  EXPECT_EQ(table.Size(), 4u);
-  EXPECT_EQ(table.GroupOf("Us Power Squadron"), "VOLUN");
-  EXPECT_EQ(table.CodeOf("us coastal control office"), "CCO");
 }
 
 TEST(CommittedContributors, CodesFitSixColumnsAndGroupsAreKnown) {
