@@ -85,7 +85,6 @@ std::vector<std::string> SampleTexts() {
   return texts;
 }
 
-// Read whole or in blocks of any size, down to one byte, the text gives the same Descriptions.
 TEST(DescriptionStream, FindsWhatTheLinesOfTheTextHold) {
   TempFolder folder;
   for (const std::string& text : SampleTexts()) {

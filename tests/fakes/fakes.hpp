@@ -94,6 +94,9 @@ struct FakePlatform {
   Platform platform;
 };
 
+// The progress dialog as "processing|info|value/max", "hidden: " in front when it is not shown.
+std::string Describe(const Progress& progress);
+
 // A session whose menu holds every entry of the main menu tree, as at the program's start.
 struct TestSession : Session {
   TestSession();

@@ -92,7 +92,6 @@ Grid Project(LambertZoneConstants& zone, const std::string& line, double latDegr
   return g;
 }
 
-// Each projection leaves its outputs alone for a zone of another kind.
 TEST_F(GeodesyTest, EachProjectionOnlyForItsKind) {
   EXPECT_TRUE(Forward(Zone("MD   "), RadOfDeg(39), RadOfDeg(77)).Untouched());
   double lat = -1, lon = -1, convergence = -1, scale = -1;

@@ -24,7 +24,6 @@ namespace {
 
 std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
 
-// Every state and territory has its counties, each found by the look-up.
 TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
   const FipsIndex index(Committed());
   const auto states = CountryStateList(Committed());
