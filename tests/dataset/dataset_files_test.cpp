@@ -27,6 +27,19 @@ using testing::TempFolder;
 
 std::string Bool(bool value) { return value ? "1" : "0"; }
 
+// GetDescription or BlankDescription of `pid` with the fixture's index, and its dataset or a missing
+// one: the message, the text read, what became of the dataset.
+std::string Description(const std::string& call, const std::string& fixture, bool present, const std::string& pid) {
+  TempFolder folder;
+  MarkIndex index;
+  LoadIndexFile(CopyFixture(folder, fixture + ".ndx"), index);
+  const std::string dat = present ? CopyFixture(folder, fixture + ".dat") : folder.File("missing.dat");
+  std::string text = "as passed";
+  const std::string message = call == "Get" ? GetDescription(index, dat, pid, text) : BlankDescription(index, dat, pid);
+  if (!FileExists(dat)) return message + "|" + text + "|absent";
+  return message + "|" + text + (ReadWholeFile(dat) == Fixture(fixture + ".dat") ? "|unchanged" : "|changed");
+}
+
 TEST(DatasetText, GivesTheResultsOfTheCaseTable) {
   using Args = testing::CallArgs;
   const testing::CallTable calls = {
@@ -48,8 +61,9 @@ TEST(DatasetText, GivesTheResultsOfTheCaseTable) {
          return Bool(IsHistoryHeadLine(a[0])) + "|" + Bool(IsHistoryLine(a[0])) + "|" + std::string(HistoryYear(a[0])) +
                 "|" + std::string(HistoryCondition(a[0])) + "|" + std::string(HistoryAgency(a[0]));
        }}},
+      {"Description", {4, [](const Args& a) { return Description(a[0], a[1], a[2] == "1", a[3]); }}},
   };
-  testing::CheckCalls("dataset/cases.txt", 27, calls);
+  testing::CheckCalls("dataset/cases.txt", 33, calls);
 }
 
 struct Golden {
@@ -343,32 +357,6 @@ TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
     EXPECT_EQ(text.substr(text.size() - 2), "E\r");
     EXPECT_EQ(after.substr(after.size() - 5), "  \r\n\n");
   }
-}
-
-TEST(DescriptionFile, FailuresAndSilentCases) {
-  Landmarks data;
-  EXPECT_EQ(BlankDescription(data.index, data.dat, "ZZ9999"), "PID not found!");
-  EXPECT_EQ(BlankDescription(data.index, data.folder.File("missing.dat"), "CD0002"),
-            "Unable to open .dat file for writing.");
-  EXPECT_FALSE(FileExists(data.folder.File("missing.dat")));
-  EXPECT_EQ(ReadWholeFile(data.dat), data.original);
-  std::string text = "as passed";
-  EXPECT_EQ(GetDescription(data.index, data.dat, "ZZ9999", text), "PID not found!");
-  EXPECT_EQ(GetDescription(data.index, data.folder.File("missing.dat"), "CD0002", text), "");
-  EXPECT_EQ(text, "as passed");
-
-  // The empty dataset's only record has offset 0: nothing is read.
-  MarkIndex empty;
-  LoadIndexFile(CopyFixture(data.folder, "empty.ndx"), empty);
-  EXPECT_EQ(GetDescription(empty, CopyFixture(data.folder, "empty.dat"), "", text), "");
-  EXPECT_EQ(text, "as passed");
-
-  // A record cut short makes the look-up read a later offset than the next one.
-  MarkIndex layouts;
-  LoadIndexFile(CopyFixture(data.folder, "layouts.ndx"), layouts);
-  EXPECT_EQ(GetDescription(layouts, CopyFixture(data.folder, "layouts.dat"), "AB1236", text),
-            "Invalid description Length!");
-  EXPECT_EQ(text, "as passed");
 }
 
 std::string Rec(const char* pid, std::uint64_t offset) {
