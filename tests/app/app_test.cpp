@@ -209,12 +209,8 @@ TEST_F(CommandsTest, OpenDatAsksForADatasetAndRemembersIt) {
   fake.ui.fileAnswers.push_back(app.Path() + "/data/site.dat");
   Run("mnuOpenDat");
   ASSERT_EQ(fake.ui.fileDialogs.size(), 1u);
-  const auto& dialog = fake.ui.fileDialogs[0];
-  EXPECT_FALSE(dialog.save);
-  EXPECT_EQ(dialog.filter, "Data Files (*.dat)|*.dat");
-  EXPECT_EQ(dialog.title, "Open Dat File");
-  EXPECT_EQ(dialog.initDir, app.Path() + "/data/");
-  EXPECT_EQ(dialog.defaultExt, "dat");
+  EXPECT_EQ(testing::Describe(fake.ui.fileDialogs[0]), "open|Open Dat File|Data Files (*.dat)|*.dat|" + app.Path() + "/data/");
+  EXPECT_EQ(fake.ui.fileDialogs[0].defaultExt, "dat");
 
   const std::string path = app.Path() + "/data/site.dat";
   EXPECT_EQ(session.dataset.DatFile, path);

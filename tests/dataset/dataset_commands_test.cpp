@@ -114,11 +114,7 @@ TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
   const auto before = session.dataset.markIndex.Elements();
   fake.ui.fileAnswers.push_back(folder.File("fresh.dat"));
   Run("mnuFileNew");
-  const auto& dialog = fake.ui.fileDialogs.at(0);
-  EXPECT_TRUE(dialog.save);
-  EXPECT_EQ(dialog.title, "Create Dat File");
-  EXPECT_EQ(dialog.filter, "Data Files (*.dat)|*.dat");
-  EXPECT_EQ(dialog.initDir, folder.Path() + "/");
+  EXPECT_EQ(testing::Describe(fake.ui.fileDialogs.at(0)), "save|Create Dat File|Data Files (*.dat)|*.dat|" + folder.Path() + "/");
   EXPECT_EQ(session.dataset.DatFile, folder.File("fresh.dat"));
   EXPECT_EQ(session.shell.caption, folder.File("fresh.dat"));
   EXPECT_EQ(session.dataset.IndexFile, folder.File("fresh.ndx"));

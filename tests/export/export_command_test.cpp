@@ -57,12 +57,8 @@ TEST_F(ExportCommand, AsksForTheOutputNameBesideTheLastDataset) {
     if (saved) fake.settings.SaveSetting("Settings", "LastDatDirectory", "/data/marks/");
     RunExport("");  // cancelled
     ASSERT_EQ(fake.ui.fileDialogs.size(), 1u);
-    const FileDialogRequest& request = fake.ui.fileDialogs[0];
-    EXPECT_TRUE(request.save);
-    EXPECT_EQ(request.title, "Choose Output File Name");
-    EXPECT_EQ(request.fileName, "fixture");
-    EXPECT_EQ(request.initDir, saved ? "/data/marks/" : "c:\\");
-    EXPECT_EQ(request.filter, "");
+    EXPECT_EQ(Describe(fake.ui.fileDialogs[0]), std::string("save|Choose Output File Name||") + (saved ? "/data/marks/" : "c:\\"));
+    EXPECT_EQ(fake.ui.fileDialogs[0].fileName, "fixture");
   }
   // Cancelling the save dialog ends the command without a word.
   EXPECT_TRUE(Messages().empty());

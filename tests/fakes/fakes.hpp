@@ -94,6 +94,9 @@ struct FakePlatform {
   Platform platform;
 };
 
+// A file dialog as "save" or "open", then its title, its filter and its folder, "|" between them.
+std::string Describe(const FileDialogRequest& request);
+
 // The progress dialog as "processing|info|value/max", "hidden: " in front when it is not shown.
 std::string Describe(const Progress& progress);
 

@@ -118,11 +118,8 @@ TEST(frmView, SaveAsFilterByKindOfText) {
     s.fake.ui.fileAnswers.push_back(s.folder.File("out.txt"));
     s.view.mnuFileSaveAs(s.fake.ui);
     ASSERT_EQ(s.fake.ui.fileDialogs.size(), 1u);
-    const FileDialogRequest& request = s.fake.ui.fileDialogs[0];
-    EXPECT_EQ(request.filter, testing::JoinFields(c.begin() + 1, c.end(), "|")) << c[0];
-    EXPECT_EQ(request.title, "Save file as:");
-    EXPECT_EQ(request.initDir, "");
-    EXPECT_TRUE(request.save);
+    EXPECT_EQ(testing::Describe(s.fake.ui.fileDialogs[0]), "save|Save file as:|" + testing::JoinFields(c.begin() + 1, c.end(), "|") + "|")
+        << c[0];
     EXPECT_EQ(ReadWholeFile(s.folder.File("out.txt")), "text\r\n");
     EXPECT_TRUE(s.fake.ui.messages.empty());
   }
