@@ -6,6 +6,7 @@
 #include "common/text.hpp"
 #include "export/parser/note_header.hpp"
 #include "fakes/test_rows.hpp"
+#include "sample_lines.hpp"
 #include "support_files/contributors.hpp"
 #include "support_files/country_file.hpp"
 #include "support_files/monument_category.hpp"
@@ -56,12 +57,17 @@ const testing::CallTable kCalls = {
        std::snprintf(degrees, sizeof degrees, "|%.9f|%.9f", town.latitude, town.longitude);
        return town.name + degrees;
      }}},
+    {"TownNames", {1, [](const Args& a) {
+       std::string names;
+       for (const auto& line : test::ReadLines(Folder(a[0]) + kTownsFileName)) names += ReadTownLine(line).name + ",";
+       return names;
+     }}},
     {"Extent", {4, [](const Args& a) {
        return TownInExtent({"T", 36.0, 79.0}, std::stod(a[0]), std::stod(a[1]), std::stod(a[2]), std::stod(a[3])) ? "1" : "0";
      }}},
 };
 
-TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 107, kCalls); }
+TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 108, kCalls); }
 
 }  // namespace
 }  // namespace benchlog

@@ -152,14 +152,6 @@ TEST(SmallTables, DatumsNameKnownEllipsoidsAndTheSampleRealizations) {
 
 constexpr double kSecond = 1.0 / 3600.0;
 
-TEST(TownLine, ReadsTheFixtureFile) {
-  std::vector<std::string> names;
-  for (const auto& line : test::ReadLines(testing::TestData("support/") + kTownsFileName)) {
-    names.push_back(ReadTownLine(line).name);
-  }
-  EXPECT_EQ(names, (std::vector<std::string>{"ATTU STATION", "CHAPEL HILL", "HILLSBOROUGH"}));
-}
-
 std::vector<std::string> CommittedTowns() { return test::ReadLines(testing::SourceSupport() + kTownsFileName); }
 
 TEST(CommittedTowns, SortedAndNoTwoAlikeInTheirFirst32Columns) {
