@@ -26,9 +26,6 @@ using testing::FakePlatform;
 using testing::TempFolder;
 using testing::MemorySettings;
 
-const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
-                                        "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
-
 // The items of a table field, ";" between them.
 std::vector<std::string> Items(const std::string& text) { return text.empty() ? std::vector<std::string>{} : Split(text, ";"); }
 
@@ -49,7 +46,7 @@ struct AppScene {
   Configuration config;
 
   void WriteSupportFiles() {
-    for (const char* name : kAllSupportFiles) app.Write(name, "x");
+    for (auto name = SupportFileNames(); *name; ++name) app.Write(*name, "x");
   }
   void WriteAllFiles() {
     app.Write("Benchlog.ini", "ELLIPSOID A=6378137\r\nELLIPSOID E2=0.00669438002290\r\n");

@@ -5,7 +5,6 @@
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
-#include "common/print_line.hpp"
 #include "common/text.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
@@ -87,15 +86,6 @@ TEST(LineReader, ReadsIntoAStringAndFailsOnAMissingFile) {
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_EQ(FailureOf([&] { LineReader missing(folder.File("missing.dat")); }), kFileNotFound);
-}
-
-TEST(PrintLine, ColumnCountsFromOneAndFinishStartsAgain) {
-  PrintLine line;
-  EXPECT_EQ(line.Write("ABC").Column(), 4u);
-  EXPECT_EQ(line.Tab(2).Column(), 2u);
-  line.Finish();
-  EXPECT_EQ(line.Column(), 1u);
-  EXPECT_EQ(line.Write("Z").Finish(), "Z\r\n");
 }
 
 }  // namespace

@@ -71,7 +71,9 @@ const testing::CallTable kCalls = {
     {"PrintLine", {1, [](const Args& a) {
        PrintLine line;
        for (const auto& item : Lines(a[0])) item[0] == 'T' ? line.Tab(Size(item.substr(1))) : line.Write(item.substr(1));
-       return line.Finish();
+       const std::string column = std::to_string(line.Column());
+       const std::string finished = line.Finish();
+       return column + "|" + finished + "|" + std::to_string(line.Column());
      }}},
     {"Failure", {1, [](const Args& a) {
        const std::map<std::string, RuntimeFailure (*)()> made = {
