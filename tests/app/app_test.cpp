@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <iomanip>
-#include <sstream>
-
 #include "app/app_commands.hpp"
 #include "app/command_registry.hpp"
 #include "app/configuration_file.hpp"
@@ -28,12 +25,6 @@ using testing::MemorySettings;
 
 // The items of a table field, ";" between them.
 std::vector<std::string> Items(const std::string& text) { return text.empty() ? std::vector<std::string>{} : Split(text, ";"); }
-
-std::string Digits(double value) {
-  std::ostringstream text;
-  text << std::setprecision(15) << value;
-  return text.str();
-}
 
 std::vector<long> Fields(const WindowPlacement& p) { return {p.state, p.top, p.left, p.height, p.width}; }
 
@@ -61,13 +52,11 @@ TEST_F(AppFolder, FirstRunDefaults) {
   ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
   EXPECT_EQ(Fields(placement), (std::vector<long>{kNormal, 0, 0, 4000, 4000}));
   EXPECT_EQ(session.shell.caption, "Benchlog Version 1.0.0");
-  EXPECT_EQ(session.shell.foreColor, 0u);
-  EXPECT_EQ(session.shell.backColor, 16777215u);
+  EXPECT_EQ(std::pair(session.shell.foreColor, session.shell.backColor), std::pair(0u, 16777215u));
   EXPECT_EQ(session.config.helpFile, app.Path() + "/Benchlog.chm");
   EXPECT_TRUE(session.dataset.DatFile.empty());
   EXPECT_FALSE(session.menu["mnuLatLoninTxt"].visible);
-  EXPECT_TRUE(session.menu["mnuExport"].visible);
-  EXPECT_TRUE(session.menu["mnuExport"].enabled);
+  EXPECT_TRUE(session.menu["mnuExport"].visible && session.menu["mnuExport"].enabled);
   EXPECT_TRUE(fake.ui.messages.empty());
   // The configured ellipsoid, which the export reads.
   EXPECT_DOUBLE_EQ(session.config.ellipsoidA, 6378137.0);
@@ -141,7 +130,7 @@ TEST(CheckLoadFiles, GivesTheConfigurationAndMissingFilesOfTheCaseTable) {
     EXPECT_NEAR(folder.config.ellipsoidE2, std::stod(c[3]), 1e-15) << c[0];
     EXPECT_NEAR(folder.config.ellipsoidEp2, std::stod(c[4]), 1e-14) << c[0];
     const Configuration& k = folder.config;
-    EXPECT_EQ(Join({k.country, k.state, k.units, k.hemi1, k.hemi2, k.helpFile, Digits(k.ellipsoidA)}, ";"), c[5]) << c[0];
+    EXPECT_EQ(Join({k.country, k.state, k.units, k.hemi1, k.hemi2, k.helpFile, std::to_string(k.ellipsoidA)}, ";"), c[5]) << c[0];
   }
 }
 
