@@ -25,9 +25,6 @@ using testing::FakePlatform;
 using testing::TempFolder;
 using testing::MemorySettings;
 
-const char* const kAllSupportFiles[] = {"Contrib.dat",   "Country.dat",          "Groups.dat",    "Monument_Category.dat",
-                                        "Zones.txt",     "Horizontal_Datum.dat", "Ellipsoid.dat", "Towns.txt"};
-
 // The items of a table field, ";" between them.
 std::vector<std::string> Items(const std::string& text) { return text.empty() ? std::vector<std::string>{} : Split(text, ";"); }
 
@@ -42,15 +39,11 @@ struct AppScene {
   Configuration config;
 
   void WriteSupportFiles() {
-    for (const char* name : kAllSupportFiles) app.Write(name, "x");
+    for (auto name = SupportFileNames(); *name; ++name) app.Write(*name, "x");
   }
   void WriteAllFiles() {
     app.Write("Benchlog.ini", "ELLIPSOID A=6378137\r\nELLIPSOID E2=0.00669438002290\r\n");
     WriteSupportFiles();
-  }
-  std::string Check(const std::string& ini) {
-    app.Write("Benchlog.ini", ini);
-    return CheckLoadFiles(fake.platform, config);
   }
 };
 
@@ -61,13 +54,11 @@ TEST_F(AppFolder, FirstRunDefaults) {
   ASSERT_TRUE(LoadMainWindow(session, fake.platform, placement));
   EXPECT_EQ(Fields(placement), (std::vector<long>{kNormal, 0, 0, 4000, 4000}));
   EXPECT_EQ(session.shell.caption, "Benchlog Version 1.0.0");
-  EXPECT_EQ(session.shell.foreColor, 0u);
-  EXPECT_EQ(session.shell.backColor, 16777215u);
+  EXPECT_EQ(std::pair(session.shell.foreColor, session.shell.backColor), std::pair(0u, 16777215u));
   EXPECT_EQ(session.config.helpFile, app.Path() + "/Benchlog.chm");
   EXPECT_TRUE(session.dataset.DatFile.empty());
   EXPECT_FALSE(session.menu["mnuLatLoninTxt"].visible);
-  EXPECT_TRUE(session.menu["mnuExport"].visible);
-  EXPECT_TRUE(session.menu["mnuExport"].enabled);
+  EXPECT_TRUE(session.menu["mnuExport"].visible && session.menu["mnuExport"].enabled);
   EXPECT_TRUE(fake.ui.messages.empty());
   // The configured ellipsoid, which the export reads.
   EXPECT_DOUBLE_EQ(session.config.ellipsoidA, 6378137.0);
@@ -149,45 +140,20 @@ TEST(Splash, FirstRunWaitsFiveSecondsLaterRunsTwo) {
   }
 }
 
-// The cases of tests/data/app/load_files.txt.
-TEST(CheckLoadFiles, NamesTheMissingFilesOfTheCaseTable) {
-  for (const auto& c : testing::ReadRows("app/load_files.txt", 4, '|')) {
+TEST(CheckLoadFiles, GivesTheConfigurationAndMissingFilesOfTheCaseTable) {
+  for (auto c : testing::ReadRows("app/load_files.txt", 7, '|')) {
     AppScene folder;
+    for (auto& field : c) field = ReplaceAll(field, "$APP", folder.app.Path());
     if (c[0] != "-") folder.app.Write("Benchlog.ini", c[0]);
     if (c[1] == "all") folder.WriteSupportFiles();
     for (const auto& name : Items(c[1] == "all" ? "" : c[1])) folder.app.Write(name, "x");
     EXPECT_EQ(CheckLoadFiles(folder.fake.platform, folder.config), c[2]) << c[0];
-    EXPECT_EQ(folder.fake.platform.paths.supportPath, folder.app.Path() + "/");
+    EXPECT_EQ(folder.fake.platform.paths.supportPath, c[6].empty() ? folder.app.Path() + "/" : c[6]) << c[0];
     EXPECT_NEAR(folder.config.ellipsoidE2, std::stod(c[3]), 1e-15) << c[0];
     EXPECT_NEAR(folder.config.ellipsoidEp2, std::stod(c[4]), 1e-14) << c[0];
+    const Configuration& k = folder.config;
+    EXPECT_EQ(Join({k.country, k.state, k.units, k.hemi1, k.hemi2, k.helpFile, std::to_string(k.ellipsoidA)}, ";"), c[5]) << c[0];
   }
-}
-
-TEST_F(AppFolder, KeysAndValuesAreTakenInUpperCaseAndLaterLinesWin) {
-  WriteSupportFiles();
-  Check("country=us\r\nState=md\r\nSTATE=va\r\nELLIPSOID A=6378137\r\nellipsoid e2=0.00669438002290\r\n"
-        "Units=Meters\r\nno equals sign\r\n=orphan value\r\nHEMI1=n\r\nHEMI2=w\r\nHELP FILE=manual/index.html\r\n");
-  EXPECT_EQ(config.country, "US");
-  EXPECT_EQ(config.state, "VA");
-  EXPECT_EQ(config.units, "METERS");
-  EXPECT_EQ(config.hemi1, "N");
-  EXPECT_EQ(config.hemi2, "W");
-  EXPECT_EQ(config.helpFile, "MANUAL/INDEX.HTML");
-  EXPECT_DOUBLE_EQ(config.ellipsoidA, 6378137.0);
-  EXPECT_DOUBLE_EQ(config.ellipsoidE2, 0.00669438002290);
-  // GRS 80: e'^2 = e^2 / (1 - e^2) = 0.006739496775...
-  EXPECT_NEAR(config.ellipsoidEp2, 0.00673949677548, 1e-14);
-}
-
-// The path comes out in capitals, yet finds its folder in any case.
-TEST_F(AppFolder, SupportPathInCapitalsFindsTheFolderOfAnyCase) {
-  Check("Support File Path=c:\\data\\\r\n");
-  EXPECT_EQ(fake.platform.paths.supportPath, "C:\\DATA\\");
-  app.Write("support/Contrib.dat", "x");
-  const std::string missing = Check("SUPPORT FILE PATH=" + app.Path() + "/support/\r\n");
-  EXPECT_EQ(fake.platform.paths.supportPath, app.Path() + "/support/");
-  EXPECT_EQ(missing.find("Contrib.dat"), std::string::npos);
-  EXPECT_NE(missing.find("Country.dat"), std::string::npos);
 }
 
 TEST(SecondEccentricity, FailsOnTheSquareRoot) {
@@ -196,7 +162,6 @@ TEST(SecondEccentricity, FailsOnTheSquareRoot) {
   EXPECT_EQ(FailureOf([] { SecondEccentricitySquared(1.5); }), kInvalidProcedureCall);
 }
 
-// The cases of tests/data/app/recent_files.txt.
 TEST(RecentFiles, GiveTheListsOfTheCaseTable) {
   for (const auto& c : testing::ReadRows("app/recent_files.txt", 5, '|')) {
     testing::TestSession session;
@@ -252,12 +217,8 @@ TEST_F(CommandsTest, OpenDatAsksForADatasetAndRemembersIt) {
   fake.ui.fileAnswers.push_back(app.Path() + "/data/site.dat");
   Run("mnuOpenDat");
   ASSERT_EQ(fake.ui.fileDialogs.size(), 1u);
-  const auto& dialog = fake.ui.fileDialogs[0];
-  EXPECT_FALSE(dialog.save);
-  EXPECT_EQ(dialog.filter, "Data Files (*.dat)|*.dat");
-  EXPECT_EQ(dialog.title, "Open Dat File");
-  EXPECT_EQ(dialog.initDir, app.Path() + "/data/");
-  EXPECT_EQ(dialog.defaultExt, "dat");
+  EXPECT_EQ(testing::Describe(fake.ui.fileDialogs[0]), "open|Open Dat File|Data Files (*.dat)|*.dat|" + app.Path() + "/data/");
+  EXPECT_EQ(fake.ui.fileDialogs[0].defaultExt, "dat");
 
   const std::string path = app.Path() + "/data/site.dat";
   EXPECT_EQ(session.dataset.DatFile, path);

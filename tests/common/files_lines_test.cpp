@@ -5,8 +5,9 @@
 
 #include "common/files.hpp"
 #include "common/line_input.hpp"
-#include "common/print_line.hpp"
+#include "common/text.hpp"
 #include "fakes/temp_folder.hpp"
+#include "fakes/test_rows.hpp"
 #include "test_support.hpp"
 
 namespace benchlog {
@@ -63,28 +64,13 @@ Lines ReadAll(const std::string& path) {
 }
 
 TEST(LineReader, EndsLinesAtCrOrCrLfAndKeepsEveryOtherByte) {
-  struct Case { const char* name; std::string content; Lines expected; };
-  const std::string x(kBuffer - 1, 'x');
-  const std::string z(kBuffer + 10, 'z');
-  const Case cases[] = {
-      {"empty file", "", {}},
-      {"only CR LF", "\r\n", {""}},
-      {"last line without end", "a\r\nb", {"a", "b"}},
-      {"lone CR", "a\rb\r", {"a", "b"}},
-      {"lone LF stays", "a\nb\r\nc\n", {"a\nb", "c\n"}},
-      {"CR then CR LF", "a\r\r\nb", {"a", "", "b"}},
-      {"empty line at the end", "a\r\n\r\n", {"a", ""}},
-      {"bytes above 127 and NUL", "\xE9\0z\xFF\r\n"s, {"\xE9\0z\xFF"s}},
-      {"CR last in the buffer, LF in the next read", x + "\r\ny", {x, "y"}},
-      {"CR last in the buffer, then a line", x + "\rab\r\n", {x, "ab"}},
-      {"CR last byte of the file", x + "\r", {x}},
-      {"line across the buffer", "a\r\n" + z + "\r\nb", {"a", z, "b"}},
-  };
   TempFolder folder;
   const std::string path = folder.File("lines.dat");
-  for (const auto& c : cases) {
-    WriteWholeFile(path, c.content);
-    EXPECT_EQ(ReadAll(path), c.expected) << c.name;
+  for (auto c : testing::ReadRows("common/line_reader_cases.txt", 12, '|')) {
+    for (auto& field : c)
+      field = ReplaceAll(ReplaceAll(field, "{x}", std::string(kBuffer - 1, 'x')), "{z}", std::string(kBuffer + 10, 'z'));
+    WriteWholeFile(path, c[1]);
+    EXPECT_EQ(ReadAll(path), Lines(c.begin() + 2, c.end())) << c[0];
   }
 }
 
@@ -100,15 +86,6 @@ TEST(LineReader, ReadsIntoAStringAndFailsOnAMissingFile) {
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_FALSE(reader.ReadLine(line));
   EXPECT_EQ(FailureOf([&] { LineReader missing(folder.File("missing.dat")); }), kFileNotFound);
-}
-
-TEST(PrintLine, ColumnCountsFromOneAndFinishStartsAgain) {
-  PrintLine line;
-  EXPECT_EQ(line.Write("ABC").Column(), 4u);
-  EXPECT_EQ(line.Tab(2).Column(), 2u);
-  line.Finish();
-  EXPECT_EQ(line.Column(), 1u);
-  EXPECT_EQ(line.Write("Z").Finish(), "Z\r\n");
 }
 
 }  // namespace

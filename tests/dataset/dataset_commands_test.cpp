@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 
@@ -77,12 +78,7 @@ TEST_F(DatasetCommandsTest, ReindexRebuildsBehindTheProgressDialog) {
 
   EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
   ASSERT_GE(fake.progressHistory.size(), 3u);
-  const Progress& shown = fake.progressHistory.front();
-  EXPECT_TRUE(shown.Visible());
-  EXPECT_EQ(shown.lblProcessing, "Creating Index");
-  EXPECT_EQ(shown.lblInfo, "Please wait...");
-  EXPECT_EQ(shown.max, 2);
-  EXPECT_EQ(shown.value, 1);
+  EXPECT_EQ(testing::Describe(fake.progressHistory.front()), "Creating Index|Please wait...|1/2");
   EXPECT_EQ(fake.progressHistory[1].value, 2);  // one step, then the bar is full
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_EQ(fake.ui.doEventsCalls, 1);
@@ -106,10 +102,8 @@ TEST_F(DatasetCommandsTest, CompressDropsBlanksAndReindexes) {
   Run("mnuCompDatFile");
   EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), Fixture("blanked_compressed.dat"));
   EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"File Compressed!"});
-  ASSERT_FALSE(fake.progressHistory.empty());
-  bool reindexShown = false;
-  for (const auto& p : fake.progressHistory) reindexShown = reindexShown || (p.Visible() && p.lblProcessing == "Reindexing file");
-  EXPECT_TRUE(reindexShown);
+  EXPECT_TRUE(std::any_of(fake.progressHistory.begin(), fake.progressHistory.end(),
+                          [](const Progress& p) { return p.Visible() && p.lblProcessing == "Reindexing file"; }));
   EXPECT_FALSE(fake.progress.Visible());
   EXPECT_EQ(ReadWholeFile(session.dataset.IndexFile).substr(0, 6), "JK0001");
 }
@@ -119,11 +113,7 @@ TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
   const auto before = session.dataset.markIndex.Elements();
   fake.ui.fileAnswers.push_back(folder.File("fresh.dat"));
   Run("mnuFileNew");
-  const auto& dialog = fake.ui.fileDialogs.at(0);
-  EXPECT_TRUE(dialog.save);
-  EXPECT_EQ(dialog.title, "Create Dat File");
-  EXPECT_EQ(dialog.filter, "Data Files (*.dat)|*.dat");
-  EXPECT_EQ(dialog.initDir, folder.Path() + "/");
+  EXPECT_EQ(testing::Describe(fake.ui.fileDialogs.at(0)), "save|Create Dat File|Data Files (*.dat)|*.dat|" + folder.Path() + "/");
   EXPECT_EQ(session.dataset.DatFile, folder.File("fresh.dat"));
   EXPECT_EQ(session.shell.caption, folder.File("fresh.dat"));
   EXPECT_EQ(session.dataset.IndexFile, folder.File("fresh.ndx"));

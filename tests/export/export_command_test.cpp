@@ -8,8 +8,6 @@
 
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
-#include "common/line_input.hpp"
-#include "common/text.hpp"
 #include "export/export_commands.hpp"
 #include "export/export_run_support.hpp"
 #include "fakes/file_size_limit.hpp"
@@ -59,12 +57,8 @@ TEST_F(ExportCommand, AsksForTheOutputNameBesideTheLastDataset) {
     if (saved) fake.settings.SaveSetting("Settings", "LastDatDirectory", "/data/marks/");
     RunExport("");  // cancelled
     ASSERT_EQ(fake.ui.fileDialogs.size(), 1u);
-    const FileDialogRequest& request = fake.ui.fileDialogs[0];
-    EXPECT_TRUE(request.save);
-    EXPECT_EQ(request.title, "Choose Output File Name");
-    EXPECT_EQ(request.fileName, "fixture");
-    EXPECT_EQ(request.initDir, saved ? "/data/marks/" : "c:\\");
-    EXPECT_EQ(request.filter, "");
+    EXPECT_EQ(Describe(fake.ui.fileDialogs[0]), std::string("save|Choose Output File Name||") + (saved ? "/data/marks/" : "c:\\"));
+    EXPECT_EQ(fake.ui.fileDialogs[0].fileName, "fixture");
   }
   // Cancelling the save dialog ends the command without a word.
   EXPECT_TRUE(Messages().empty());
@@ -131,14 +125,9 @@ TEST_F(ExportCommand, WithNoBoxTickedRunsThroughEveryDescriptionAndWritesNothing
   EXPECT_FALSE(FileExists(Out("export.vcl")));
   // Shown with its labels, run up to the count of Descriptions, hidden at the end.
   ASSERT_FALSE(fake.progressHistory.empty());
-  const Progress& shown = fake.progressHistory.front();
-  EXPECT_TRUE(shown.Visible());
-  EXPECT_EQ(shown.caption, "Benchlog");
-  EXPECT_EQ(shown.lblProcessing, "Processing ");
-  EXPECT_EQ(shown.lblInfo, "Please wait...");
-  EXPECT_EQ(fake.progress.max, 19);
-  EXPECT_EQ(fake.progress.value, 19);
-  EXPECT_FALSE(fake.progress.Visible());
+  EXPECT_EQ(fake.progressHistory.front().caption, "Benchlog");
+  EXPECT_EQ(Describe(fake.progressHistory.front()).substr(0, 26), "Processing |Please wait...");
+  EXPECT_EQ(Describe(fake.progress), "hidden: Processing |Please wait...|19/19");
 }
 
 // The database, Street Atlas and script boxes open nothing yet; the database box brings up
@@ -183,7 +172,6 @@ TEST_F(ExportCommand, EndsWhenNoMarkIsChosen) {
   EXPECT_TRUE(Messages().empty());
 }
 
-// More than 10000 selected marks fail on the table's bound; the command ends without a report.
 TEST_F(ExportCommand, MoreThanTenThousandChosenMarksEndWithoutAWord) {
   std::vector<std::string> records;
   for (int i = 0; i <= 10000; ++i) {
@@ -214,42 +202,6 @@ TEST_F(ExportCommand, ACoordinateTooWideForItsColumnEndsTheExport) {
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(FolderSnapshot(folder.Path()), before);
   EXPECT_FALSE(fake.progress.Visible());
-}
-
-// With a zone whose projection kind is none of "LC", "TM", "OM" (or a zone not in the table)
-// nothing is projected: every mark keeps the north and east of the mark before, here 0, and a
-// vertical line without plane coordinates loses its elevation too.
-TEST_F(ExportCommand, AZoneOfNoKnownKindProjectsNothing) {
-  TempFolder support;
-  for (const char* name : {"Contrib.dat", "Monument_Category.dat"})
-    support.Write(name, ReadWholeFile(fake.platform.paths.supportPath + name));
-  std::string zones = ReadWholeFile(fake.platform.paths.supportPath + "Zones.txt");
-  std::string odd = SplitCrLf(zones)[0];  // a zone line with its kind made "ZZ"
-  odd.replace(0, 10, "XX    9999").replace(224, 2, "ZZ");
-  support.Write("Zones.txt", zones + odd + "\r\n");
-  fake.platform.paths.supportPath = support.Path() + "/";
-
-  const std::vector<std::string> hcl = SplitCrLf(ListingFixture("nc_meters.hcl"));
-  const std::vector<std::string> vcl = SplitCrLf(ListingFixture("nc_meters.vcl"));
-  for (const char* zone : {"XX    9999", "QQ    0000"}) {
-    Choose(zone, false, false);
-    RunExport(Out("export.txt"));
-    EXPECT_TRUE(Completed()) << zone;
-    const std::vector<std::string> gotH = SplitCrLf(ReadWholeFile(Out("export.hcl")));
-    const std::vector<std::string> gotV = SplitCrLf(ReadWholeFile(Out("export.vcl")));
-    ASSERT_EQ(gotH.size(), hcl.size());
-    ASSERT_EQ(gotV.size(), vcl.size());
-    for (std::size_t i = 2; i + 1 < hcl.size(); ++i) {
-      std::string expected = hcl[i];
-      expected.replace(90, 24, "0.000       0.000       ");
-      EXPECT_EQ(gotH[i], expected) << zone;
-    }
-    for (std::size_t i = 2; i + 1 < vcl.size(); ++i) {
-      std::string expected = vcl[i];
-      expected.replace(80, 38, std::string(38, ' '));
-      EXPECT_EQ(gotV[i], expected) << zone;
-    }
-  }
 }
 
 // Each listing command shows its file at font size 8 and goes back to 10; a missing file has

@@ -14,6 +14,7 @@
 #include "export/parser/mark_record.hpp"
 #include "export/parser/parse_description.hpp"
 #include "fakes/test_paths.hpp"
+#include "fakes/test_rows.hpp"
 
 namespace benchlog::testing {
 
@@ -26,19 +27,6 @@ inline SupportFiles& SourceSupportFiles() {
 // The lines of a file of tests/data/export, split at CR LF.
 inline std::vector<std::string> ExportFixtureLines(const std::string& name) {
   return SplitCrLf(ReadWholeFile(TestData("export/" + name)));
-}
-
-// The rows of a table in tests/data/export: lines split at "|", comments ("#") and empty lines
-// left out; each row must have `cells` cells.
-inline std::vector<std::vector<std::string>> ExportTableRows(const std::string& name, std::size_t cells) {
-  std::vector<std::vector<std::string>> rows;
-  for (const std::string& line : Split(ReadWholeFile(TestData("export/" + name)), "\n")) {
-    if (line.empty() || line[0] == '#') continue;
-    rows.push_back(Split(line, "|"));
-    EXPECT_EQ(rows.back().size(), cells) << line;
-    rows.back().resize(cells);
-  }
-  return rows;
 }
 
 // A data line of `pid`: ' ' in column 1, the PID in 2 to 7, then each text at its 1-based

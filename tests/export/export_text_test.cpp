@@ -1,10 +1,9 @@
-// Cutting the export's text into Descriptions, and the names of the outputs.
+// Cutting the export's text into Descriptions.
 #include <gtest/gtest.h>
 
 #include <random>
 
 #include "common/runtime_failure.hpp"
-#include "export/export_names.hpp"
 #include "common/line_input.hpp"
 #include "common/text.hpp"
 #include "dataset/find_descriptions.hpp"
@@ -86,7 +85,6 @@ std::vector<std::string> SampleTexts() {
   return texts;
 }
 
-// Read whole or in blocks of any size, down to one byte, the text gives the same Descriptions.
 TEST(DescriptionStream, FindsWhatTheLinesOfTheTextHold) {
   TempFolder folder;
   for (const std::string& text : SampleTexts()) {
@@ -121,17 +119,6 @@ TEST(DescriptionStream, CountsAndReadsAgainFromTheStart) {
   TextBlocks missing("1      header");
   EXPECT_THROW(CountDescriptions(missing), RuntimeFailure);
   EXPECT_THROW(TextBlocks(TextFile{folder.File("none.dat")}), RuntimeFailure);
-}
-
-TEST(ExportNames, FromTheChosenNameWithoutItsExtension) {
-  const ExportNames names = ExportNamesOf("/out/marks.txt");
-  const std::pair<std::string, std::string> outputs[] = {
-      {names.stem, ""},     {names.hcl, ".hcl"}, {names.vcl, ".vcl"},     {names.mdb, ".mdb"}, {names.sa6, "_sa6.txt"},
-      {names.msf, ".msf"}, {names.err, ".err"}, {names.gwp, "_gwp.txt"}, {names.des, ".des"}};
-  for (const auto& [name, suffix] : outputs) EXPECT_EQ(name, "/out/marks" + suffix);
-  for (const auto& [chosen, stem] : {std::pair{"/out/marks", "/out/marks"}, {"/out/marks.2024.txt", "/out/marks.2024"},
-                                     {"/out/v1.2/marks", "/out/v1.2/marks"}, {"marks.", "marks"}})
-    EXPECT_EQ(ExportNamesOf(chosen).stem, stem) << chosen;
 }
 
 }  // namespace

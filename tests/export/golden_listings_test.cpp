@@ -13,7 +13,7 @@ namespace benchlog::testing {
 namespace {
 
 using Row = std::vector<std::string>;
-std::vector<Row> GoldenCases() { return ExportTableRows("golden_cases.txt", 7); }
+std::vector<Row> GoldenCases() { return ReadRows("export/golden_cases.txt", 6, '|'); }
 
 TEST(GoldenCases, AreAllRead) { EXPECT_EQ(GoldenCases().size(), 6u); }
 

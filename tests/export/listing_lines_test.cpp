@@ -1,6 +1,5 @@
 // What the golden listings (golden_listings_test.cpp) do not show: a vertical line without
-// elevation or plane coordinates, elevations in feet in single precision, and the sort of lines
-// in small letters and broken-off pieces.
+// elevation or plane coordinates, and the sort of lines in small letters and broken-off pieces.
 #include <gtest/gtest.h>
 
 #include "common/files.hpp"
@@ -43,16 +42,6 @@ TEST(ListingLines, VerticalLineWithoutElevationOrCoordinates) {
   values.SpcNorth = 0;
   values.Elevation = 262.5f;
   EXPECT_EQ(VerticalLine(Hillsboro(), "FY3210", values, 1.0, 1.0), head + std::string(38, ' ') + state);
-}
-
-TEST(ListingLines, ElevationsInFeetInSinglePrecision) {
-  struct Case {
-    float metres;
-    float feet;  // metres times 3937, then divided by 1200, each in single precision
-  };
-  for (const Case c : {Case{148.531f, 487.30545f}, Case{262.0f, 859.5783f}, Case{-1.5f, -4.92125f}}) {
-    EXPECT_FLOAT_EQ(ElevationInFeet(c.metres), c.feet) << c.metres;
-  }
 }
 
 // Sorted by whole lines and character codes: the empty element, a line broken off with leading

@@ -1,44 +1,55 @@
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <set>
 #include <string>
 
-#include "common/fit.hpp"
+#include "common/text.hpp"
+#include "export/export_names.hpp"
+#include "export/listing_lines.hpp"
 #include "export/export_test_support.hpp"
 #include "export/parser/mark_record.hpp"
+#include "fakes/test_rows.hpp"
 
 namespace benchlog {
 namespace {
 
-TEST(FixedText, StoringCutsOrPadsToTheWidth) {
-  struct Case {
-    std::string value;
-    std::string stored;
-  };
-  const Case cases[] = {
-      {"", "    "},         {"AB", "AB  "},     {"ABCD", "ABCD"},
-      {"ABCDEF", "ABCD"},   {" A ", " A  "},    {std::string("A\0B", 3), "A B "},
-  };
-  for (const auto& c : cases) {
-    FixedText<4> field;
-    field = c.value;
-    EXPECT_EQ(field.View(), c.stored) << c.value;
-  }
+std::string Bool(bool value) { return value ? "1" : "0"; }
+
+// A 4-wide field holding `value`, cleared when `clear` is "1".
+FixedText<4> Stored(const std::string& value, const std::string& clear) {
+  FixedText<4> field;
+  field = value;
+  if (clear == "1") field.Clear();
+  return field;
 }
 
-TEST(FixedText, ComparesAsTheValueWouldBeStored) {
-  FixedText<4> field;
-  field = "12";
-  EXPECT_TRUE(field == "12");
-  EXPECT_TRUE(field == "12  ");
-  EXPECT_FALSE(field == "1");
-  EXPECT_FALSE(field == " 12");
-  EXPECT_EQ(field.Trimmed(), "12");
-  EXPECT_FALSE(field.IsBlank());
-  field.Clear();
-  EXPECT_TRUE(field.IsBlank());
-  EXPECT_TRUE(field == "");
-  EXPECT_EQ(field.Trimmed(), "");
+TEST(ExportHelpers, GiveTheResultsOfTheCaseTable) {
+  using Args = testing::CallArgs;
+  const testing::CallTable calls = {
+      {"FixedText", {2, [](const Args& a) {
+         const FixedText<4> field = Stored(a[0], a[1]);
+         return field.Str() + "|" + std::string(field.Trimmed()) + "|" + Bool(field.IsBlank());
+       }}},
+      {"FixedTextEquals", {3, [](const Args& a) { return Bool(Stored(a[0], a[1]) == a[2]); }}},
+      {"ElevationInFeet", {1, [](const Args& a) {
+         char text[32];
+         std::snprintf(text, sizeof text, "%.9g", static_cast<double>(ElevationInFeet(std::stof(a[0]))));
+         return std::string(text);
+       }}},
+      {"FieldText", {1, [](const Args& a) {
+         MarkRecord record;
+         record.Latitude = "360342.56888";
+         record.Net = "ABTHPS";
+         const auto text = FieldText(record, a[0]);
+         return text ? std::string(*text) : "no field";
+       }}},
+      {"ExportNames", {1, [](const Args& a) {
+         const ExportNames n = ExportNamesOf(a[0]);
+         return Join({n.stem, n.hcl, n.vcl, n.mdb, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
+       }}},
+  };
+  testing::CheckCalls("export/cases.txt", 26, calls);
 }
 
 // Every field is named once, and the widths add up to the record's size, so no field is missing
@@ -54,17 +65,6 @@ TEST(MarkRecord, EveryFieldIsNamedOnceWithItsWidth) {
   EXPECT_EQ(sizeof(MarkRecord), total);
 }
 
-TEST(MarkRecord, FieldsReadByName) {
-  MarkRecord record;
-  record.Latitude = "360342.56888";
-  record.Net = "ABTHPS";
-  EXPECT_EQ(FieldText(record, "Latitude"), "360342.56888");
-  EXPECT_EQ(FieldText(record, "Net"), "ABTHP");
-  EXPECT_EQ(FieldText(record, "Quad"), std::string(35, ' '));
-  EXPECT_FALSE(FieldText(record, "latitude").has_value());
-  EXPECT_FALSE(FieldText(record, "").has_value());
-}
-
 TEST(MarkRecord, ClearBlanksEveryField) {
   MarkRecord record;
   VisitFields(record, [](std::string_view, auto& field) { field = std::string(7000, 'Q'); });
@@ -72,11 +72,8 @@ TEST(MarkRecord, ClearBlanksEveryField) {
   VisitFields(record, [](std::string_view name, const auto& field) { EXPECT_TRUE(field.IsBlank()) << name; });
 }
 
-// The cases of tests/data/export/control_flags.txt.
 TEST(MarkRecord, HorizontalAndVerticalFlags) {
-  const auto rows = testing::ExportTableRows("control_flags.txt", 5);
-  EXPECT_EQ(rows.size(), 9u);
-  for (const auto& c : rows) {
+  for (const auto& c : testing::ReadRows("export/control_flags.txt", 9, '|')) {
     MarkRecord record;
     record.HorizOrder = c[0];
     record.HorizType = c[1];

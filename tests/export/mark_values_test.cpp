@@ -49,13 +49,11 @@ class MarkValuesTest : public ::testing::Test {
 // the export must take the ellipsoid height, or, when the sheet has none (FY3210), the
 // orthometric plus the geoid height, and 30 m of height move the factor by some 5e-6.
 TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
-  const auto rows = ExportTableRows("sheet_values.txt", 11);
-  EXPECT_EQ(rows.size(), 5u);
   ExportSetup setup = Grs80Setup();
   setup.zoneLine = ZoneLine("NC   ");
   setup.utmAsked = true;
   setup.utmZoneText = "17";
-  for (const auto& c : rows) {
+  for (const auto& c : ReadRows("export/sheet_values.txt", 5, '|')) {
     const MarkRecord record = Mark(c[0]);
     MarkValues values;
     values.horizontal = HasHorizontalControl(record);
@@ -77,9 +75,7 @@ TEST_F(MarkValuesTest, AgreeWithTheDataSheets) {
 }
 
 TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
-  const auto rows = ExportTableRows("position_texts.txt", 8);
-  EXPECT_EQ(rows.size(), 3u);
-  for (const auto& c : rows) {
+  for (const auto& c : ReadRows("export/position_texts.txt", 3, '|')) {
     MarkRecord record;
     record.Latitude = c[0];
     record.LatHemi = c[1];
@@ -100,9 +96,7 @@ TEST_F(MarkValuesTest, PositionTextsAndDegrees) {
 // With no projection (a zone of no known kind) the north and east stand as the mark before left
 // them, so each pattern of tests/data/export/coordinate_texts.txt can be tried on a chosen value.
 TEST_F(MarkValuesTest, CoordinateTextPatterns) {
-  const auto rows = ExportTableRows("coordinate_texts.txt", 7);
-  EXPECT_EQ(rows.size(), 9u);
-  for (const auto& c : rows) {
+  for (const auto& c : ReadRows("export/coordinate_texts.txt", 9, '|')) {
     MarkRecord record;
     record.PosSource = c[0];
     MarkValues values;
@@ -126,10 +120,11 @@ TEST_F(MarkValuesTest, CoordinateTextPatterns) {
   }
 }
 
+// A zone whose kind is none of "LC", "TM", "OM" projects nothing: north and east stay as they were.
 TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
-  for (const auto& [zone, latitude, longitude] :
-       {std::tuple{"NC   ", "360342.56888", "0790718.55999"}, std::tuple{"DE   ", "390930.00000", "0753115.00000"},
-        std::tuple{"AK 1 ", "572000.00000", "1343000.00000"}}) {
+  for (const auto& [zone, latitude, longitude, kind] :
+       {std::tuple{"NC   ", "360342.56888", "0790718.55999", ""}, std::tuple{"DE   ", "390930.00000", "0753115.00000", ""},
+        std::tuple{"AK 1 ", "572000.00000", "1343000.00000", ""}, std::tuple{"NC   ", "360342.56888", "0790718.55999", "ZZ"}}) {
     MarkRecord record;
     record.Latitude = latitude;
     record.Longitude = longitude;
@@ -137,10 +132,11 @@ TEST_F(MarkValuesTest, EachZoneKindHasItsProjection) {
     values.SpcNorth = values.SpcEast = values.SpcScale = -1;
     ExportSetup setup = Grs80Setup();
     setup.zoneLine = ZoneLine(zone);
+    if (*kind) setup.zoneLine.replace(224, 2, kind);
     ComputePlaneValues(setup, lambert, record, values);
-    EXPECT_NE(values.SpcNorth, -1) << zone;
-    EXPECT_NE(values.SpcEast, -1) << zone;
-    EXPECT_NEAR(values.SpcScale, 1, 0.001) << zone;
+    EXPECT_EQ(values.SpcNorth == -1, *kind != 0) << zone << kind;
+    EXPECT_EQ(values.SpcEast == -1, *kind != 0) << zone << kind;
+    EXPECT_NEAR(values.SpcScale, *kind ? -1 : 1, 0.001) << zone;
   }
 }
 

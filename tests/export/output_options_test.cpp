@@ -7,7 +7,9 @@
 #include "export/frm_cdt.hpp"
 #include "export/frm_output_options.hpp"
 #include "fakes/fakes.hpp"
+#include "common/text.hpp"
 #include "fakes/test_paths.hpp"
+#include "fakes/test_rows.hpp"
 
 namespace benchlog::testing {
 namespace {
@@ -16,15 +18,10 @@ TEST(OutputOptions, DefaultsOfAFirstRun) {
   MemorySettings settings;
   frmOutputOptions form;
   form.Load(settings, SourceSupport());
-  EXPECT_TRUE(form.optAllSta);
-  EXPECT_FALSE(form.optSelectedSta);
-  EXPECT_EQ(form.FileTypes(), "000000");
   EXPECT_EQ(form.chkNRMarks, 0);
   EXPECT_EQ(form.chkLandmarks, 0);
   EXPECT_EQ(form.cboScale, "5280");
   EXPECT_EQ(form.cboScaleList, (std::vector<std::string>{"1000", "1320", "2000", "2640", "5280"}));
-  EXPECT_TRUE(!form.optFeet && form.optMeters && !form.optUTM);
-  EXPECT_TRUE(!form.optElFeet && form.optElM);
   EXPECT_EQ(form.cboProjZone, "MD    1900");
   EXPECT_FALSE(form.fraScaleVisible);
   // The zone list: the first ten characters of each line of the zone table.
@@ -33,54 +30,22 @@ TEST(OutputOptions, DefaultsOfAFirstRun) {
             form.cboProjZoneList.end());
 }
 
-// "FileTypes" is read by characters 1, 2, 3, 5 and 6; the fourth is ignored and written "0".
-TEST(OutputOptions, FileTypesDigits) {
-  struct Case {
-    const char* saved;
-    int horiz, vert, db, streetAtlas, microstation;
-    const char* written;
+TEST(OutputOptions, BoxesAndOptionsFromTheSettings) {
+  const auto bits = [](std::initializer_list<int> values) {
+    std::string text;
+    for (const int value : values) text += std::to_string(value);
+    return text;
   };
-  for (const Case c : {Case{"0000000", 0, 0, 0, 0, 0, "000000"}, Case{"110000", 1, 1, 0, 0, 0, "110000"},
-                       Case{"001111", 0, 0, 1, 1, 1, "001011"}, Case{"1X1 1", 1, 0, 1, 1, 0, "101010"},
-                       Case{"2", 2, 0, 0, 0, 0, "200000"}, Case{"9", 0, 0, 0, 0, 0, "000000"},
-                       Case{"", 0, 0, 0, 0, 0, "000000"}}) {
+  for (const auto& c : ReadRows("export/output_options.txt", 12, '|')) {
     MemorySettings settings;
-    settings.SaveSetting("frmOutputOptions", "FileTypes", c.saved);
+    for (const auto& entry : Split(c[0], ";"))
+      if (!entry.empty()) settings.SaveSetting("frmOutputOptions", entry.substr(0, entry.find('=')), entry.substr(entry.find('=') + 1));
     frmOutputOptions form;
     form.Load(settings, SourceSupport());
-    EXPECT_EQ(form.chkHoriz, c.horiz) << c.saved;
-    EXPECT_EQ(form.chkVert, c.vert) << c.saved;
-    EXPECT_EQ(form.chkDB, c.db) << c.saved;
-    EXPECT_EQ(form.chkStreetAtlas, c.streetAtlas) << c.saved;
-    EXPECT_EQ(form.chkMicrostation, c.microstation) << c.saved;
-    EXPECT_EQ(form.FileTypes(), c.written) << c.saved;
-  }
-}
-
-// The option buttons are set from their keys in turn, as a group: a true one clears the others.
-TEST(OutputOptions, OptionGroupsFromTheSettings) {
-  struct Case {
-    const char *feet, *meters, *utm;
-    bool optFeet, optMeters, optUTM;
-  };
-  for (const Case c : {Case{"True", "False", "False", true, false, false},
-                       Case{"False", "False", "True", false, false, true},
-                       Case{"True", "True", "False", false, true, false},   // the later key wins
-                       Case{"False", "False", "False", false, false, false}}) {
-    MemorySettings settings;
-    settings.SaveSetting("frmOutputOptions", "Feet", c.feet);
-    settings.SaveSetting("frmOutputOptions", "Meters", c.meters);
-    settings.SaveSetting("frmOutputOptions", "UTM", c.utm);
-    settings.SaveSetting("frmOutputOptions", "ElevFeet", "True");
-    settings.SaveSetting("frmOutputOptions", "ElevM", "False");
-    settings.SaveSetting("frmOutputOptions", "AllStations", "False");
-    frmOutputOptions form;
-    form.Load(settings, SourceSupport());
-    EXPECT_EQ(form.optFeet, c.optFeet);
-    EXPECT_EQ(form.optMeters, c.optMeters);
-    EXPECT_EQ(form.optUTM, c.optUTM);
-    EXPECT_TRUE(form.optElFeet && !form.optElM);
-    EXPECT_TRUE(!form.optAllSta && form.optSelectedSta);
+    EXPECT_EQ(bits({form.chkHoriz, form.chkVert, form.chkDB, form.chkStreetAtlas, form.chkMicrostation}), c[1]) << c[0];
+    EXPECT_EQ(form.FileTypes(), c[2]) << c[0];
+    EXPECT_EQ(bits({form.optFeet, form.optMeters, form.optUTM, form.optElFeet, form.optElM, form.optAllSta, form.optSelectedSta}),
+              c[3]) << c[0];
   }
 }
 

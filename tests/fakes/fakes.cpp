@@ -64,6 +64,15 @@ std::vector<std::string> ScriptedUi::MessageTexts() const {
   return texts;
 }
 
+std::string Describe(const FileDialogRequest& r) {
+  return (r.save ? "save|" : "open|") + r.title + "|" + r.filter + "|" + r.initDir;
+}
+
+std::string Describe(const Progress& p) {
+  return (p.Visible() ? "" : "hidden: ") + p.lblProcessing + "|" + p.lblInfo + "|" + std::to_string(p.value) + "/" +
+         std::to_string(p.max);
+}
+
 FakePlatform::FakePlatform(const std::string& appPath)
     : platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath.empty() ? "" : appPath + "/"}} {
   progress.observer = [this](const Progress& p) { progressHistory.push_back(p); };

@@ -107,6 +107,12 @@ struct FakePlatform {
   Platform platform;
 };
 
+// A file dialog as "save" or "open", then its title, its filter and its folder, "|" between them.
+std::string Describe(const FileDialogRequest& request);
+
+// The progress dialog as "processing|info|value/max", "hidden: " in front when it is not shown.
+std::string Describe(const Progress& progress);
+
 // A session whose menu holds every entry of the main menu tree, as at the program's start.
 struct TestSession : Session {
   TestSession();

@@ -2,12 +2,10 @@
 
 #include <cmath>
 #include <cstdio>
-#include <numbers>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "fakes/fakes.hpp"
 #include "geodesy/angle_text.hpp"
@@ -17,6 +15,7 @@
 #include "geodesy/geographic.hpp"
 #include "geodesy/utm_zone.hpp"
 #include "geodesy/zone_line.hpp"
+#include "support_files/zone_table_file.hpp"
 #include "geodesy_test_support.hpp"
 
 namespace benchlog {
@@ -82,6 +81,13 @@ std::string Digits(double value, int digits) {
   return text;
 }
 
+// Five decimals, no "-0".
+std::string Fixed(double value) {
+  char text[40];
+  std::snprintf(text, sizeof text, "%.5f", value + 0.0);
+  return text;
+}
+
 TEST(AngleHelpers, GiveTheResultsOfTheCaseTable) {
   const testing::CallTable calls = {
       {"RadToDms", {5, [](const testing::CallArgs& a) {
@@ -100,6 +106,34 @@ TEST(AngleHelpers, GiveTheResultsOfTheCaseTable) {
          return std::to_string(zone) + "|" + Mid(line, 12, 3) + Mid(line, 101, 3);
        }}},
       {"ZoneFootUnit", {1, [](const testing::CallArgs& a) { return ZoneFootUnit(testing::Zone(a[0])); }}},
+      {"RadOfDeg", {1, [](const testing::CallArgs& a) { return Digits(RadOfDeg(std::stod(a[0])), 17); }}},
+      {"DegOfRad", {1, [](const testing::CallArgs& a) { return Digits(DegOfRad(Angle(a[0])), 17); }}},
+      {"GridFeetPerMetre", {1, [](const testing::CallArgs& a) { return Digits(GridFeetPerMetre(a[0]), 15); }}},
+      {"UtmZoneLine", {2, [](const testing::CallArgs& a) {
+         std::string line;
+         auto zone = static_cast<std::int16_t>(std::stoi(a[1]));
+         UtmZoneLine(line, RadOfDeg(std::stod(a[0])), zone);
+         return line;
+       }}},
+      {"FindZoneLine", {3, [](const testing::CallArgs& a) {
+         std::string line = "stale";
+         FindZoneLine(a[0], a[1], line, testing::TestData("geodesy/" + a[2] + "/"));
+         return line;
+       }}},
+      {"IsometricLatitude", {2, [](const testing::CallArgs& a) {
+         const Ellipsoid sphere{6371000.0, 0.0, 0.0};
+         return Digits(IsometricLatitude(a[0] == "sphere" ? sphere : Grs80(), std::stod(a[1])), 14);
+       }}},
+      {"CombinedFactor", {3, [](const testing::CallArgs& a) {
+         double elevation = -9, combined = -9;
+         CombinedFactor(Grs80(), RadOfDeg(std::stod(a[0])), std::stod(a[1]), std::stod(a[2]), elevation, combined);
+         return Digits(elevation, 13) + "|" + Digits(combined, 13);
+       }}},
+      {"GeodeticToCartesian", {3, [](const testing::CallArgs& a) {
+         double x = -9, y = -9, z = -9;
+         GeodeticToCartesian(Grs80(), RadOfDeg(std::stod(a[0])), RadOfDeg(std::stod(a[1])), std::stod(a[2]), x, y, z);
+         return Fixed(x) + "|" + Fixed(y) + "|" + Fixed(z);
+       }}},
       {"ArcSin", {1, [](const testing::CallArgs& a) { return Digits(ArcSin(std::stod(a[0])), 15); }}},
       {"AzDist", {2, [](const testing::CallArgs& a) {
          double angle = -9, distance = -9;
@@ -107,38 +141,7 @@ TEST(AngleHelpers, GiveTheResultsOfTheCaseTable) {
          return Digits(angle, 17) + "|" + Digits(distance, 15);
        }}},
   };
-  testing::CheckCalls("geodesy/cases.txt", 70, calls);
-}
-
-TEST(Angles, ConversionsUseTheProgramsPiInTheGivenOrder) {
-  // 77 degrees: (77 * pi) / 180 differs in the last bit from 77 * (pi / 180).
-  EXPECT_EQ(RadOfDeg(77.0), 1.3439035240356323);
-  // 1 radian: (1 / pi) * 180 differs from 1 * (180 / pi), and from the library's pi.
-  EXPECT_EQ(DegOfRad(1.0), 57.29577951308239);
-  EXPECT_NE(DegOfRad(1.0), 180.0 / std::numbers::pi);
-  EXPECT_EQ(RadOfDeg(180.0), kPi);
-  EXPECT_EQ(DegOfRad(kPi), 180.0);
-}
-
-TEST_F(GeodesyTest, IsometricLatitude) {
-  EXPECT_EQ(IsometricLatitude(ellipsoid, 0.0), 0.0);
-  // 45 degrees on GRS 80: asinh(tan 45) - e atanh(e sin 45).
-  EXPECT_NEAR(IsometricLatitude(ellipsoid, std::sin(RadOfDeg(45))), 0.876634653411382, 1e-15);
-  EXPECT_THROW(IsometricLatitude(ellipsoid, 1.0), RuntimeFailure);  // the pole: no guard
-  EXPECT_NEAR(IsometricLatitude({6371000.0, 0.0, 0.0}, 0.5), std::atanh(0.5), 1e-15);  // a sphere
-}
-
-TEST_F(GeodesyTest, CombinedFactor) {
-  // At 45 degrees the Euler radius in azimuth 45 is 2 M N / (M + N) = 6378092.00754 m.
-  double elevation = 0, combined = 0;
-  CombinedFactor(ellipsoid, RadOfDeg(45), 100.0, 0.9999, elevation, combined);
-  EXPECT_NEAR(elevation, 1.0 - 100.0 / (6378092.00754 + 100.0), 1e-13);
-  EXPECT_NEAR(combined, elevation * 0.9999, 1e-15);
-  CombinedFactor(ellipsoid, RadOfDeg(45), 0.0, 0.99995, elevation, combined);
-  EXPECT_EQ(elevation, 1.0);
-  EXPECT_EQ(combined, 0.99995);
-  CombinedFactor(ellipsoid, RadOfDeg(10), -30.0, 1.0, elevation, combined);
-  EXPECT_GT(elevation, 1.0);  // below the ellipsoid a distance grows
+  testing::CheckCalls("geodesy/cases.txt", 97, calls);
 }
 
 // Ground distance in metres between two positions a few centimetres apart.
@@ -191,19 +194,6 @@ TEST_F(GeodesyTest, FailuresShowTheirMessageAndKeepTheOutputs) {
   EXPECT_EQ(ui.messages[1].text, "Invalid procedure call or argument");
   EXPECT_EQ(ui.messages[1].title, "Geographic Inverse");
   EXPECT_EQ(std::vector<double>({lat2, lon2, back, forward, distance}), std::vector<double>({11, 22, 33, 1, 3}));
-}
-
-TEST_F(GeodesyTest, GeodeticToCartesian) {
-  double x = 0, y = 0, z = 0;
-  GeodeticToCartesian(ellipsoid, 0, 0, 0, x, y, z);
-  EXPECT_DOUBLE_EQ(x, 6378137.0);
-  EXPECT_EQ(y, 0.0);
-  EXPECT_EQ(z, 0.0);
-  GeodeticToCartesian(ellipsoid, 0, kHalfPi, 10.0, x, y, z);  // 90 degrees west: Y positive
-  EXPECT_NEAR(x, 0.0, 1e-6);
-  EXPECT_DOUBLE_EQ(y, 6378147.0);
-  GeodeticToCartesian(ellipsoid, kHalfPi, 0, 0, x, y, z);  // the pole: the semi-minor axis of GRS 80
-  EXPECT_NEAR(z, 6356752.31414, 1e-5);
 }
 
 // Against GeographicLib's GeodSolve on GRS 80: lines from 1 m to 10 km all over the globe.

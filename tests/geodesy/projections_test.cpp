@@ -4,9 +4,7 @@
 #include <map>
 
 #include "common/runtime_failure.hpp"
-#include "common/test_support.hpp"
 #include "common/text.hpp"
-#include "fakes/temp_folder.hpp"
 #include "geodesy/angles.hpp"
 #include "geodesy/lambert.hpp"
 #include "geodesy/national_grid.hpp"
@@ -27,7 +25,6 @@ using testing::SupportPath;
 using testing::Worst;
 using testing::Zone;
 using testing::Grid;
-using testing::TempFolder;
 
 constexpr double kArcSecond = 3.14159265358979 / 180 / 3600;
 
@@ -95,7 +92,6 @@ Grid Project(LambertZoneConstants& zone, const std::string& line, double latDegr
   return g;
 }
 
-// Each projection leaves its outputs alone for a zone of another kind.
 TEST_F(GeodesyTest, EachProjectionOnlyForItsKind) {
   EXPECT_TRUE(Forward(Zone("MD   "), RadOfDeg(39), RadOfDeg(77)).Untouched());
   double lat = -1, lon = -1, convergence = -1, scale = -1;
@@ -191,19 +187,6 @@ TEST_F(GeodesyTest, StatePlaneAccuracyAgainstProj) {
   EXPECT_LT(obliqueScale.value, 1e-8) << obliqueScale.where;  // PROJ prints it to 8 decimals
 }
 
-TEST(UtmZoneLine, LineReadsThroughTheZoneTableColumns) {
-  std::string line;
-  std::int16_t zone = 0;
-  UtmZoneLine(line, RadOfDeg(77), zone);
-  // Scale denominator at 19-30, false northing at 32-44, arc at origin at 46-58, false easting at
-  // 60-71, the meridian's degrees and minutes at 101-106, the kind at 225-226.
-  EXPECT_EQ(line, "UTM     18 075:00    2500.0000        0.0000        0.0000  500000.0000" + std::string(21, ' ') +
-                      "00:00   075:00" + std::string(118, ' ') + "UT");
-  zone = 5;
-  UtmZoneLine(line, RadOfDeg(150), zone);
-  EXPECT_EQ(Mid(line, 9, 2), "05");
-}
-
 // East of Greenwich, the longitude given as a negative value or as 360 minus its east degrees; the
 // meridian is written in the 180-to-360 form.
 TEST_F(GeodesyTest, UtmEastOfGreenwichAgainstProj) {
@@ -262,42 +245,6 @@ TEST(NationalGridAddress, AgreesWithGeoConvert) {
     EXPECT_EQ(Address("N", std::stod(r[3]), r[0].c_str(), east, north, 1), expected) << r[4];
   }
   EXPECT_GT(evenZoneWrap, 10);
-}
-
-class ZoneLookup : public ::testing::Test {
- protected:
-  void SetUp() override {
-    folder_.Write(kZoneTableFile,
-                  "AAAAA 0001 first\r\nBBBBB 0002 second\r\nCCCCC 0003 third\r\nBBBBB 0004 fourth\r\n");
-  }
-  std::string Find(const std::string& key, const std::string& number) {
-    std::string line = "stale";
-    FindZoneLine(key, number, line, folder_.Path() + "/");
-    return line;
-  }
-  TempFolder folder_;
-};
-
-TEST_F(ZoneLookup, FirstLineWhoseKeyOrNumberMatches) {
-  EXPECT_EQ(Find("CCCCC", ""), "CCCCC 0003 third");
-  EXPECT_EQ(Find("BBBBB", ""), "BBBBB 0002 second");   // the first of two
-  EXPECT_EQ(Find("ZZZZZ", "0003"), "CCCCC 0003 third"); // the number alone finds it
-  EXPECT_EQ(Find("CCCCC", "0001"), "AAAAA 0001 first"); // or, not and: the earlier line wins
-  EXPECT_EQ(Find("ZZZZZ", ""), "");                     // no match: empty
-  EXPECT_EQ(Find("CCCC", ""), "");                      // the texts must fill the columns
-  EXPECT_EQ(Find("", ""), "");
-}
-
-TEST_F(ZoneLookup, MissingTableIsTheFileError) {
-  std::string line;
-  EXPECT_EQ(FailureOf([&] { FindZoneLine("AAAAA", "", line, folder_.Path() + "/absent/"); }), kFileNotFound);
-}
-
-// Grid feet come from the unit of each zone's feet, as its state defines them.
-TEST(ZoneTable, FootUnits) {
-  EXPECT_DOUBLE_EQ(GridFeetPerMetre("iFT"), 1 / 0.3048);
-  EXPECT_EQ(GridFeetPerMetre("sFT"), 3937.0 / 1200.0);
-  EXPECT_EQ(GridFeetPerMetre("   "), 3937.0 / 1200.0);
 }
 
 }  // namespace

@@ -2,12 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <functional>
 
-#include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "export/parser/note_header.hpp"
 #include "fakes/test_rows.hpp"
+#include "sample_lines.hpp"
 #include "support_files/contributors.hpp"
 #include "support_files/country_file.hpp"
 #include "support_files/monument_category.hpp"
@@ -18,23 +17,35 @@ namespace {
 
 using Args = testing::CallArgs;
 
-// The folder a row names: "fixture" or "committed".
+// The folder a row names: "fixture", "committed" or "missing".
 std::string Folder(const std::string& file) {
-  return file == "fixture" ? testing::TestData("support/") : testing::SourceSupport();
+  return file == "fixture" ? testing::TestData("support/") : file == "missing" ? testing::TestData("support/nowhere/")
+                                                                                 : testing::SourceSupport();
 }
 std::string CountryFile(const std::string& file) {
   return file == "fixture" ? testing::TestData("support/country_small.dat") : Folder(file) + kCountryFileName;
 }
 
-// The first argument of a reader of a file is the file: "fixture" or "committed".
+// The first argument of a reader of a file is the file: "fixture", "committed" or "missing".
 const testing::CallTable kCalls = {
     {"Fips", {3, [](const Args& a) { return FipsIndex(CountryFile(a[0])).LookUp(a[1], a[2]); }}},
+    {"States", {1, [](const Args& a) { return Join(CountryStateList(CountryFile(a[0])), ","); }}},
+    {"StateIndex", {1, [](const Args& a) {
+       const FipsIndex index(CountryFile(a[0]));
+       return index.StateIndex() + "|" + std::to_string(index.LineCount());
+     }}},
     {"Counties", {2, [](const Args& a) { return Join(CountryCountyList(CountryFile(a[0]), a[1]), ","); }}},
     {"Category", {2, [](const Args& a) {
        return MonumentCategory(ReadCategoryTable(Folder(a[0]) + kMonumentCategoryFileName), a[1]);
      }}},
     {"Contributor", {2, [](const Args& a) {
        return ContributorTable::Load(Folder(a[0]) + kContributorsFileName).CodeOf(a[1]);
+     }}},
+    {"ContributorGroup", {2, [](const Args& a) {
+       return ContributorTable::Load(Folder(a[0]) + kContributorsFileName).GroupOf(a[1]);
+     }}},
+    {"ContributorCount", {1, [](const Args& a) {
+       return std::to_string(ContributorTable::Load(Folder(a[0]) + kContributorsFileName).Size());
      }}},
     {"NoteHeader", {2, [](const Args& a) {
        const NoteHeader h = SplitNoteHeader(a[1], ContributorTable::Load(Folder(a[0]) + kContributorsFileName));
@@ -46,29 +57,17 @@ const testing::CallTable kCalls = {
        std::snprintf(degrees, sizeof degrees, "|%.9f|%.9f", town.latitude, town.longitude);
        return town.name + degrees;
      }}},
+    {"TownNames", {1, [](const Args& a) {
+       std::string names;
+       for (const auto& line : test::ReadLines(Folder(a[0]) + kTownsFileName)) names += ReadTownLine(line).name + ",";
+       return names;
+     }}},
     {"Extent", {4, [](const Args& a) {
        return TownInExtent({"T", 36.0, 79.0}, std::stod(a[0]), std::stod(a[1]), std::stod(a[2]), std::stod(a[3])) ? "1" : "0";
      }}},
 };
 
-TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 97, kCalls); }
-
-TEST(SupportFiles, AMissingFileIsAFileNotFoundFailure) {
-  const std::string missing = testing::TestData("support/nowhere/");
-  const std::function<void()> reads[] = {
-      [&] { CountryStateList(missing + kCountryFileName); }, [&] { CountryCountyList(missing + kCountryFileName, "NC"); },
-      [&] { FipsIndex{missing + kCountryFileName}; }, [&] { ReadCategoryTable(missing + kMonumentCategoryFileName); },
-      [&] { ContributorTable::Load(missing + kContributorsFileName); },
-  };
-  for (const auto& read : reads) {
-    try {
-      read();
-      ADD_FAILURE() << "no failure";
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_EQ(failure.number, kFileNotFound);
-    }
-  }
-}
+TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 108, kCalls); }
 
 }  // namespace
 }  // namespace benchlog

@@ -22,19 +22,8 @@
 namespace benchlog {
 namespace {
 
-std::string Fixture() { return testing::TestData("support/") + "country_small.dat"; }
 std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
 
-// The state list takes every state line whatever its country; the index only the US part's.
-TEST(CountryFile, StateListAndStateIndex) {
-  EXPECT_EQ(CountryStateList(Fixture()),
-            (std::vector<std::string>{"ON ONTARIO", "NC NORTH CAROLINA", "VA VIRGINIA", "OR OREGON"}));
-  const FipsIndex index(Fixture());
-  EXPECT_EQ(index.StateIndex(), "      NC0004 VA0009 OR0013 ");
-  EXPECT_EQ(index.LineCount(), 18u);  // 17 lines and the empty text behind the last CR LF
-}
-
-// Every state and territory has its counties, each found by the look-up.
 TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
   const FipsIndex index(Committed());
   const auto states = CountryStateList(Committed());
@@ -70,13 +59,6 @@ TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
     const bool landmark = code.size() == 2 && IsNumeric(code) && code != "71";
     EXPECT_EQ(category == "L", landmark) << "marker code " << code;
   }
-}
-
-TEST(Contributors, SizeGroupAndCodeByFolder) {
-  const auto table = ContributorTable::Load(testing::TestData("support/") + kContributorsFileName);
-  EXPECT_EQ(table.Size(), 4u);
-  EXPECT_EQ(table.GroupOf("Us Power Squadron"), "VOLUN");
-  EXPECT_EQ(table.CodeOf("us coastal control office"), "CCO");
 }
 
 TEST(CommittedContributors, CodesFitSixColumnsAndGroupsAreKnown) {
@@ -169,14 +151,6 @@ TEST(SmallTables, DatumsNameKnownEllipsoidsAndTheSampleRealizations) {
 }
 
 constexpr double kSecond = 1.0 / 3600.0;
-
-TEST(TownLine, ReadsTheFixtureFile) {
-  std::vector<std::string> names;
-  for (const auto& line : test::ReadLines(testing::TestData("support/") + kTownsFileName)) {
-    names.push_back(ReadTownLine(line).name);
-  }
-  EXPECT_EQ(names, (std::vector<std::string>{"ATTU STATION", "CHAPEL HILL", "HILLSBOROUGH"}));
-}
 
 std::vector<std::string> CommittedTowns() { return test::ReadLines(testing::SourceSupport() + kTownsFileName); }
 

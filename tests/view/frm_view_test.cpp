@@ -50,7 +50,6 @@ std::string ThreeDescriptions() {
   return text;
 }
 
-// The cases of tests/data/view/view_cases.txt.
 TEST(frmView, ActivationMenusAndClicksGiveTheStatesOfTheCaseTable) {
   for (const auto& c : testing::ReadRows("view/view_cases.txt", 16, '|')) {
     ViewSetup s;
@@ -119,11 +118,8 @@ TEST(frmView, SaveAsFilterByKindOfText) {
     s.fake.ui.fileAnswers.push_back(s.folder.File("out.txt"));
     s.view.mnuFileSaveAs(s.fake.ui);
     ASSERT_EQ(s.fake.ui.fileDialogs.size(), 1u);
-    const FileDialogRequest& request = s.fake.ui.fileDialogs[0];
-    EXPECT_EQ(request.filter, testing::JoinFields(c.begin() + 1, c.end(), "|")) << c[0];
-    EXPECT_EQ(request.title, "Save file as:");
-    EXPECT_EQ(request.initDir, "");
-    EXPECT_TRUE(request.save);
+    EXPECT_EQ(testing::Describe(s.fake.ui.fileDialogs[0]), "save|Save file as:|" + testing::JoinFields(c.begin() + 1, c.end(), "|") + "|")
+        << c[0];
     EXPECT_EQ(ReadWholeFile(s.folder.File("out.txt")), "text\r\n");
     EXPECT_TRUE(s.fake.ui.messages.empty());
   }
@@ -210,15 +206,6 @@ TEST(frmView, UnloadSavesThePlacement) {
     EXPECT_FALSE(view.mnuViewPhotoVisible);
     EXPECT_TRUE(view.mnuViewSketchVisible);
   }
-}
-
-TEST(frmView, OneViewerPerSession) {
-  testing::TestSession session;
-  FakePlatform fake;
-  frmView& view = ViewForm(session, fake.platform);
-  EXPECT_EQ(&view, &ViewForm(session, fake.platform));
-  EXPECT_EQ(view.session, &session);
-  EXPECT_EQ(view.platform, &fake.platform);
 }
 
 }  // namespace

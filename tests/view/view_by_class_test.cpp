@@ -2,10 +2,12 @@
 
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
+#include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_paths.hpp"
+#include "fakes/test_rows.hpp"
 #include "session/frm_select_points.hpp"
 #include "session/frm_view.hpp"
 
@@ -51,29 +53,11 @@ struct ViewByClassTest : ::testing::Test {
 
 TEST_F(ViewByClassTest, ClassesListTheirMarksInIndexOrder) {
   LoadIndex();
-  struct Case {
-    const char* command;
-    std::vector<std::string> pids;
-  };
-  // The loaded index ends in an empty element, which passes every "not a blank" test. AB1236's
-  // record is 22 characters short, so its column c holds what belongs in c + 22: column 100 the
-  // "0" of its last year 2003 (FBN), 104 its condition "N" (CORS), 106 the "C" of COUNTY (no
-  // GPS "Y") and 108 its "U" (Ht Mod); column 98 is the blank before the last year.
-  const Case cases[] = {
-      {"mnuAllHorizontal", {"AB1234", "AB1235", "AB1237", ""}},
-      {"mnuHorizFirst", {}},
-      {"mnuAllVert", {"AB1235", "AB1236", "AB1237", ""}},
-      {"mnuVertFirst", {"AB1235"}},
-      {"mnuViewCors", {"AB1234", "AB1236", ""}},
-      {"mnuViewFBN", {"AB1235", "AB1236", "AB1237", ""}},
-      {"mnuViewTidal", {"AB1237", ""}},
-      {"mnuViewGPS", {"AB1234"}},
-      {"mnuViewHtMod", {"AB1236", "AB1237", ""}},
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : testing::ReadRows("view/class_lists.txt", 9, '|')) {
     fake.ui.modals.clear();
-    EXPECT_EQ(Pick(c.command, {}), c.pids) << c.command;
-    EXPECT_EQ(fake.ui.modals.size(), 1u) << c.command;  // nothing selected: no viewer
+    const auto pids = c[1].empty() ? std::vector<std::string>{} : Split(c[1], ";");
+    EXPECT_EQ(Pick(c[0], {}), pids) << c[0];
+    EXPECT_EQ(fake.ui.modals.size(), 1u) << c[0];  // nothing selected: no viewer
   }
 }
 

@@ -166,7 +166,8 @@ void QtUi::SetHourglass(bool on) {
   else QApplication::restoreOverrideCursor();
 }
 
-void QtUi::DoEvents() { QApplication::processEvents(); }
+// Paints and timers run; the user's input waits, so that no second command starts inside a running one.
+void QtUi::DoEvents() { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 void QtUi::ShowModal(DialogModel& model) {
   ModelDialog* window = WindowOf(model, owner_);
