@@ -6,6 +6,8 @@
 #include <QNetworkRequest>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "common/number_text.hpp"
@@ -14,6 +16,7 @@ namespace benchlog::qt {
 namespace {
 
 constexpr int kDefaultTimeoutSeconds = 60;
+constexpr double kMaxTimeoutSeconds = 86400;  // a day; more would overflow the timer
 
 QString Latin1(const std::string& text) { return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())); }
 
@@ -23,7 +26,8 @@ QtHttpTransport::QtHttpTransport(const SettingsStore& settings) : settings_(sett
 
 int QtHttpTransport::TimeoutMilliseconds() const {
   const double seconds = Val(settings_.GetSetting("Settings", "RequestTimeout", "60"));
-  return seconds > 0 ? static_cast<int>(seconds * 1000) : kDefaultTimeoutSeconds * 1000;
+  if (!(seconds > 0) || !std::isfinite(seconds)) return kDefaultTimeoutSeconds * 1000;
+  return static_cast<int>(std::lround(std::min(seconds, kMaxTimeoutSeconds) * 1000));
 }
 
 std::string QtHttpTransport::OpenURL() {
