@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/text.hpp"
+#include "web/service_address.hpp"
 
 namespace benchlog {
 namespace {
@@ -64,8 +65,8 @@ std::string RequestTimeoutFault(const std::string& seconds) {
 }
 
 void FrmServiceAddress::Load(const SettingsStore& settings) {
-  txtAddress = settings.GetSetting(kSection, "ServiceAddress", kDefaultAddress);
-  txtTimeout = settings.GetSetting(kSection, "RequestTimeout", kDefaultTimeout);
+  txtAddress = settings.GetSetting(kSection, kServiceAddressKey, kDefaultServiceAddress);
+  txtTimeout = settings.GetSetting(kSection, kRequestTimeoutKey, std::to_string(kDefaultRequestTimeout));
 }
 
 bool FrmServiceAddress::cmdOK_Click(SettingsStore& settings, Ui& ui) {
@@ -77,8 +78,8 @@ bool FrmServiceAddress::cmdOK_Click(SettingsStore& settings, Ui& ui) {
   }
   txtAddress = StoredForm(txtAddress);
   txtTimeout = std::to_string(std::stoi(Trim(txtTimeout)));
-  settings.SaveSetting(kSection, "ServiceAddress", txtAddress);
-  settings.SaveSetting(kSection, "RequestTimeout", txtTimeout);
+  settings.SaveSetting(kSection, kServiceAddressKey, txtAddress);
+  settings.SaveSetting(kSection, kRequestTimeoutKey, txtTimeout);
   Tag = "Okay";
   return true;
 }

@@ -1,7 +1,6 @@
 #pragma once
 // FrmServiceAddress ("Web Service Address"): where the agency's web service is reached and how long
-// a request may wait for its answer, as a model. Both live in section "Settings": "ServiceAddress"
-// (default "http://127.0.0.1:8642", the local oco-sim) and "RequestTimeout" (seconds, default "60").
+// a request may wait for its answer, as a model over the settings of web/service_address.hpp.
 #include <string>
 
 #include "platform/dialog_model.hpp"
@@ -13,8 +12,6 @@ namespace benchlog {
 class FrmServiceAddress : public DialogModel {
  public:
   static constexpr const char* kCaption = "Web Service Address";
-  static constexpr const char* kDefaultAddress = "http://127.0.0.1:8642";
-  static constexpr const char* kDefaultTimeout = "60";
   static constexpr int kMaxTimeoutSeconds = 3600;
 
   std::string txtAddress;  // the service's base URL
