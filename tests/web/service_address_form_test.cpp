@@ -62,24 +62,5 @@ TEST(FrmServiceAddress, OkAcceptsHttpUrlsWithAHostAndSavesThemOrSaysWhatIsWrong)
   }
 }
 
-TEST(FrmServiceAddress, TheMenuCommandShowsTheStoredValuesOrTheDefaults) {
-  FakePlatform fake;
-  testing::TestSession session;
-  std::string shown;
-  const auto record = [&shown](DialogModel& model) {
-    auto& form = dynamic_cast<FrmServiceAddress&>(model);
-    shown = form.txtAddress + "|" + form.txtTimeout + "|" + form.Tag;
-  };
-  fake.ui.modalActions.push_back(record);
-  mnuServiceAddress(session, fake.platform);
-  EXPECT_EQ(shown, "http://127.0.0.1:8642|60|Canceled");
-
-  fake.settings.SaveSetting("Settings", "ServiceAddress", "http://oco.example");
-  fake.settings.SaveSetting("Settings", "RequestTimeout", "20");
-  fake.ui.modalActions.push_back(record);
-  mnuServiceAddress(session, fake.platform);
-  EXPECT_EQ(shown, "http://oco.example|20|Canceled");
-}
-
 }  // namespace
 }  // namespace benchlog
