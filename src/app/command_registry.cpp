@@ -11,6 +11,7 @@
 #include "export/export_commands.hpp"
 #include "view/class_filter.hpp"
 #include "view/view_by_class.hpp"
+#include "web/service_address_form.hpp"
 
 namespace benchlog {
 namespace {
@@ -22,6 +23,7 @@ void RegisterAppCommands(CommandTable& table) {
     table.Register(MruItemName(n), [n](Session& s, Platform& p) { mnuFileMRUItem_Click(s, p, n); });
   table.Register("mnuSetBackColor", mnuSetBackColor);
   table.Register("mnuSetForColor", mnuSetForColor);
+  table.Register("mnuServiceAddress", mnuServiceAddress);
   table.Register("mnuBenchlogHlp", mnuBenchlogHlp);
   table.Register("mnuHelpAbout", mnuHelpAbout);
   table.Register("mnuExit", mnuExit);

@@ -104,6 +104,7 @@ std::vector<MenuEntry> MakeTree() {
       Sub("mnuToolsOptions", "&Options", "mnuTools"),
       Cmd("mnuSetForColor", "Set &Print Color", "mnuToolsOptions"),
       Cmd("mnuSetBackColor", "Set &Background Color", "mnuToolsOptions"),
+      Cmd("mnuServiceAddress", "Web Service &Address...", "mnuToolsOptions"),
       Top("mnuHelp", "&Help"),
       Cmd("mnuBenchlogHlp", "&Benchlog Help", "mnuHelp"),
       Sep("mnusep15", "mnuHelp"),

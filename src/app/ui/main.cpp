@@ -15,6 +15,7 @@
 #include "app/ui/all_dialogs.hpp"
 #include "app/ui/frm_main.hpp"
 #include "platform/qt/progress_window.hpp"
+#include "platform/qt/qt_http_transport.hpp"
 #include "platform/qt/qt_settings_store.hpp"
 #include "platform/qt/qt_shell.hpp"
 #include "platform/qt/qt_ui.hpp"
@@ -47,6 +48,8 @@ int main(int argc, char** argv) {
       ChooseProgramFolder(qt::FromQt(QApplication::applicationDirPath()),
                           qt::FromQt(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)));
   Platform platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath + "/"}};
+  qt::QtHttpTransport transport(settings);
+  platform.http = &transport;
 
   const QString demoFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/demo";
   PrepareDemoDataset(settings, appPath + "/samples", qt::FromQt(demoFolder));

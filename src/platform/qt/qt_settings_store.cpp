@@ -1,5 +1,7 @@
 #include "platform/qt/qt_settings_store.hpp"
 
+#include <QFile>
+
 #include "platform/qt/text_codec.hpp"
 
 namespace benchlog::qt {
@@ -15,6 +17,11 @@ std::string QtSettingsStore::GetSetting(const std::string& section, const std::s
 void QtSettingsStore::SaveSetting(const std::string& section, const std::string& key, const std::string& value) {
   settings_.setValue(ToQt(section) + "/" + ToQt(key), ToQt(value));
   settings_.sync();
+}
+
+void QtSettingsStore::KeepToOwner() {
+  settings_.sync();
+  QFile::setPermissions(FileName(), QFile::ReadOwner | QFile::WriteOwner);
 }
 
 }  // namespace benchlog::qt

@@ -15,6 +15,9 @@ class QtSettingsStore final : public SettingsStore {
                          const std::string& defaultValue) const override;
   void SaveSetting(const std::string& section, const std::string& key, const std::string& value) override;
   QString FileName() const { return settings_.fileName(); }
+  // Makes the file readable and writable by its owner alone, as it holds a password; later saves
+  // keep that.
+  void KeepToOwner();
 
  private:
   mutable QSettings settings_;
