@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fakes.hpp"
+#include "fakes/test_rows.hpp"
 #include "web/service_address_form.hpp"
 
 namespace benchlog {
@@ -8,37 +9,10 @@ namespace {
 
 using testing::FakePlatform;
 
-struct Case {
-  const char* address;
-  const char* timeout;
-  const char* fault;  // the start of the message; "" when OK is accepted
-  const char* stored;  // "ServiceAddress" after an accepted OK
-};
-
-const Case kCases[] = {
-    {"http://127.0.0.1:8642", "60", "", "http://127.0.0.1:8642"},
-    {"  HTTPS://oco.example/cgi/ ", " 5 ", "", "HTTPS://oco.example/cgi"},
-    {"http://[::1]:8642/", "3600", "", "http://[::1]:8642"},
-    {"", "60", "The web service address must begin with http://", ""},
-    {"ftp://oco.example", "60", "The web service address must begin with http://", ""},
-    {"127.0.0.1:8642", "60", "The web service address must begin with http://", ""},
-    {"http://", "60", "The web service address has no host name.", ""},
-    {"http://:8642/x", "60", "The web service address has no host name.", ""},
-    {"http://oco example", "60", "The web service address may not contain blanks.", ""},
-    {"http://ann:pw@oco.example", "60", "The web service address may not hold a user name", ""},
-    {"http://oco.example/?a=1", "60", "The web service address may not hold a user name", ""},
-    {"http://oco.example:0", "60", "The port of the web service address", ""},
-    {"http://oco.example:65536", "60", "The port of the web service address", ""},
-    {"http://oco.example:80x", "60", "The port of the web service address", ""},
-    {"http://oco.example", "0", "The time-out must be a whole number of seconds from 1 to 3600.", ""},
-    {"http://oco.example", "3601", "The time-out must be", ""},
-    {"http://oco.example", "1.5", "The time-out must be", ""},
-    {"http://oco.example", "", "The time-out must be", ""},
-};
-
 TEST(FrmServiceAddress, OkAcceptsHttpUrlsWithAHostAndSavesThemOrSaysWhatIsWrong) {
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.address) + " / " + c.timeout);
+  for (const auto& row : testing::ReadRows("web/service_address.txt", 18, '|')) {
+    const struct { const char *address, *timeout, *fault, *stored; } c{row[0].c_str(), row[1].c_str(), row[2].c_str(), row[3].c_str()};
+    SCOPED_TRACE(row[0] + " / " + row[1]);
     FakePlatform fake;
     FrmServiceAddress form;
     form.Load(fake.settings);

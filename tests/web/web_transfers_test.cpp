@@ -2,9 +2,11 @@
 // waits, the login and the batches of PIDs.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <tuple>
 
 #include "fakes/fakes.hpp"
+#include "fakes/test_rows.hpp"
 #include "web/frm_login.hpp"
 #include "web/service_address.hpp"
 #include "web/web_transfers.hpp"
@@ -31,18 +33,7 @@ struct Web {
         login.cmdOK_Click(fake.settings);
       });
   }
-  void Answers(std::initializer_list<const char*> bodies) { fake.http.answers.assign(bodies.begin(), bodies.end()); }
   long WaitedSeconds() const { return std::chrono::duration_cast<std::chrono::seconds>(fake.clock.slept).count(); }
-};
-
-struct Case {
-  const char* name;
-  std::initializer_list<const char*> answers;
-  std::initializer_list<bool> logins;
-  const char* errMsg;
-  const char* response;
-  std::size_t requests;
-  long waited;  // seconds
 };
 
 std::vector<std::string> Pids(int count) {
@@ -56,64 +47,35 @@ std::vector<std::string> Pids(int count) {
 
 }  // namespace
 
-TEST(GetUrlOnce, ClassifiesTheOneAnswer) {
-  const Case cases[] = {
-      {"an answer", {"LIST"}, {}, "", "LIST", 1, 0},
-      {"login given", {"401 Unauthorized", "LIST"}, {true}, "", "LIST", 2, 0},
-      {"login refused", {"401 Unauthorized"}, {false}, "Internet access failed", "401 Unauthorized", 1, 0},
-      {"login refused, INPUT INCOMPLETE", {"Unauthorized INPUT INCOMPLETE"}, {false}, "Invalid input data!",
-       "Unauthorized INPUT INCOMPLETE", 1, 0},
-      {"lower case is an answer", {"input incomplete"}, {}, "", "input incomplete", 1, 0},
-      {"INPUT INCOMPLETE", {"<p>INPUT INCOMPLETE</p>"}, {}, "Invalid input data!", "<p>INPUT INCOMPLETE</p>", 1, 0},
-      {"ERROR REPORT is not known here", {"ERROR REPORT"}, {}, "", "ERROR REPORT", 1, 0},
-      {"nothing", {""}, {}, "Request timeout.\r\nNo response received.", "", 1, 0},
-      {"login given, then nothing", {"Unauthorized", ""}, {true}, "Request timeout.\r\nNo response received.", "", 2, 0},
-  };
-  for (const auto& c : cases) {
+// The rows of tests/data/web/transfers.txt.
+TEST(WebTransfers, ClassifyEveryAnswerAsTheirTableSays) {
+  for (const auto& c : benchlog::testing::ReadRows("web/transfers.txt", 21, '|')) {
+    ASSERT_EQ(c.size(), 8u);
+    const std::string name = c[0] + "|" + c[1];
     Web web;
-    web.Answers(c.answers);
-    web.Logins(c.logins);
+    std::istringstream answers(c[1]);
+    for (std::string answer; std::getline(answers, answer, ',');) web.fake.http.answers.push_back(answer);
+    if (c[1].empty() || c[1].back() == ',') web.fake.http.answers.push_back("");
+    for (const char login : c[2]) web.Logins({login == 'Y'});
     std::string response = "old", errMsg = "old";
-    GetUrlOnce(web.fake.platform, kUrl, response, errMsg);
-    EXPECT_EQ(errMsg, c.errMsg) << c.name;
-    EXPECT_EQ(response, c.response) << c.name;
-    ASSERT_EQ(web.fake.http.requests.size(), c.requests) << c.name;
-    EXPECT_EQ(web.fake.http.requests.front().url, kUrl) << c.name;
-    EXPECT_EQ(web.logins, static_cast<int>(c.logins.size())) << c.name;
-    // Left on for the caller, unless the login window turned it off and was refused.
-    EXPECT_EQ(web.fake.ui.hourglass, c.logins.size() == 0 || *c.logins.begin()) << c.name;
-    if (c.requests == 2) {
-      EXPECT_EQ(web.fake.http.requests[1].userName + "/" + web.fake.http.requests[1].password, "surveyor/secret");
+    if (c[0] == "once") GetUrlOnce(web.fake.platform, kUrl, response, errMsg);
+    if (c[0] == "retry") GetUrlRetry(web.fake.platform, kUrl, response, errMsg);
+    if (c[0] == "batches") GetPidBatches(web.fake.platform, Pids(150), response, errMsg);
+    EXPECT_EQ(errMsg, c[3]) << name;
+    EXPECT_EQ(response, c[4]) << name;
+    ASSERT_EQ(web.fake.http.requests.size(), std::stoul(c[5])) << name;
+    EXPECT_EQ(web.WaitedSeconds(), std::stol(c[6])) << name;
+    EXPECT_EQ(web.fake.ui.hourglass, c[7] == "1") << name;
+    EXPECT_EQ(web.logins, static_cast<int>(c[2].size())) << name;
+    if (c[0] != "batches") {
+      EXPECT_EQ(web.fake.http.requests.front().url, kUrl) << name;
     }
-  }
-}
-
-TEST(GetUrlRetry, TriesFiveTimesWithTheWidestClassification) {
-  const char* timeout = "Request timeout.\r\nNo response received.";
-  const Case cases[] = {
-      {"an answer", {"LIST"}, {}, "", "LIST", 1, 0},
-      {"nothing five times", {"", "", "", "", ""}, {}, timeout, "", 5, 25},
-      {"nothing, then an answer", {"", "LIST"}, {}, timeout, "LIST", 2, 5},
-      {"unavailable, then an answer", {"Temporarily Unavailable", "LIST"}, {}, "Server is temporarily unavailable!", "LIST", 2, 5},
-      {"input incomplete in any case", {"input incomplete"}, {}, "Invalid input data!", "input incomplete", 1, 0},
-      {"error report in any case", {"An Error Report"}, {}, "Error running servlet.\r\nContact OCO to report problem.",
-       "An Error Report", 1, 0},
-      {"login refused", {"Unauthorized"}, {false}, "Internet access failed!", "Unauthorized", 1, 0},
-      {"login given: fetched, waited, fetched again", {"Unauthorized", "LIST", "LIST"}, {true}, "", "LIST", 3, 5},
-  };
-  for (const auto& c : cases) {
-    Web web;
-    web.Answers(c.answers);
-    web.Logins(c.logins);
-    std::string response, errMsg;
-    GetUrlRetry(web.fake.platform, kUrl, response, errMsg);
-    EXPECT_EQ(errMsg, c.errMsg) << c.name;
-    EXPECT_EQ(response, c.response) << c.name;
-    EXPECT_EQ(web.fake.http.requests.size(), c.requests) << c.name;
-    EXPECT_EQ(web.WaitedSeconds(), c.waited) << c.name;
-    EXPECT_FALSE(web.fake.ui.hourglass) << c.name;
-    if (c.waited) {
-      EXPECT_GE(web.fake.ui.doEventsCalls, 100) << c.name;  // the windows repaint while it waits
+    // After a login every request carries its credentials; the windows repaint during every wait.
+    if (!c[2].empty() && c[2].back() == 'Y') {
+      EXPECT_EQ(web.fake.http.requests.back().userName + "/" + web.fake.http.requests.back().password, "surveyor/secret");
+    }
+    if (web.WaitedSeconds()) {
+      EXPECT_GE(web.fake.ui.doEventsCalls, 100) << name;
     }
   }
 }
@@ -159,37 +121,11 @@ TEST(GetPidBatches, BlankEntriesUseUpTheirNumber) {
   Web web;
   std::vector<std::string> pids = Pids(9);
   pids[6] = "      ";
-  web.Answers({"DESC"});
+  web.fake.http.answers.push_back("DESC");
   std::string response, errMsg;
   GetPidBatches(web.fake.platform, pids, response, errMsg);
   EXPECT_EQ(web.fake.http.requests.front().url,
             std::string(kPids) + "1=AB0001&2=AB0002&3=AB0003&4=AB0004&5=AB0005&6=AB0006&8=AB0008&9=AB0009");
-}
-
-TEST(GetPidBatches, FailuresAndTheLogin) {
-  const char* timeout = "Request timeout.\r\nNo response received.";
-  const Case cases[] = {
-      // A failure is not cleared by a later good try: the batch is dropped.
-      {"nothing, then the batch", {"", "B1"}, {}, timeout, "", 2, 5},
-      {"INPUT INCOMPLETE five times", {"INPUT INCOMPLETE", "INPUT INCOMPLETE", "INPUT INCOMPLETE", "INPUT INCOMPLETE",
-                                       "INPUT INCOMPLETE"}, {}, "Invalid input data!", "", 5, 25},
-      {"login refused in the second batch", {"B1", "Unauthorized"}, {false}, "Internet access failed", "B1", 2, 0},
-      // Unauthorized on every try: five logins, and the body fetched after the last one is the batch.
-      {"unauthorized five times", {"Unauthorized", "R1", "Unauthorized", "R2", "Unauthorized", "R3", "Unauthorized",
-                                   "R4", "Unauthorized", "R5", "B2"}, {true, true, true, true, true}, "", "R5B2", 11, 25},
-  };
-  for (const auto& c : cases) {
-    Web web;
-    web.Answers(c.answers);
-    web.Logins(c.logins);
-    std::string response, errMsg;
-    GetPidBatches(web.fake.platform, Pids(150), response, errMsg);
-    EXPECT_EQ(errMsg, c.errMsg) << c.name;
-    EXPECT_EQ(response, c.response) << c.name;
-    EXPECT_EQ(web.fake.http.requests.size(), c.requests) << c.name;
-    EXPECT_EQ(web.WaitedSeconds(), c.waited) << c.name;
-    EXPECT_EQ(web.logins, static_cast<int>(c.logins.size())) << c.name;
-  }
 }
 
 TEST(FrmLogin, RemembersThePasswordOnlyWhenTicked) {
