@@ -70,7 +70,7 @@ class QtHttpTransportTest : public QObject {
     QTest::newRow("401 without the word") << Response("401 Unauthorised", "Go away") << "" << QByteArray("Unauthorized") << false;
     QTest::newRow("403 keeps a body with the word")
         << Response("403 Forbidden", "<h1>Unauthorized</h1>") << "ann" << QByteArray("<h1>Unauthorized</h1>") << true;
-    QTest::newRow("a refused challenge is answered once")
+    QTest::newRow("a challenge comes back as the refusal")
         << Response("401 Unauthorized", "no", "WWW-Authenticate: Basic realm=\"oco\"\r\n") << "ann"
         << QByteArray("Unauthorized") << false;
     QTest::newRow("500 comes as it came") << Response("500 Internal Server Error", "ERROR REPORT 7") << ""

@@ -1,6 +1,5 @@
 #include "platform/qt/qt_http_transport.hpp"
 
-#include <QAuthenticator>
 #include <QEventLoop>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -32,22 +31,13 @@ int QtHttpTransport::TimeoutMilliseconds() const {
 
 std::string QtHttpTransport::OpenURL() {
   QNetworkRequest request(QUrl(Latin1(URL)));
-  // Sent with the request, so that a service that does not challenge still sees the login.
+  // Sent with every request. A challenge is not answered: the same login again would be refused
+  // again, and the program must see each refusal to ask the user (the body then says "Unauthorized").
   if (!UserName.empty()) {
     const QByteArray pair = QByteArray::fromStdString(UserName + ":" + Password);
     request.setRawHeader("Authorization", "Basic " + pair.toBase64());
   }
   std::unique_ptr<QNetworkReply> reply(manager_.get(request));
-
-  // A challenge is answered once; a second one means the login was refused.
-  bool answered = false;
-  QObject::connect(&manager_, &QNetworkAccessManager::authenticationRequired, reply.get(),
-                   [this, &answered, target = reply.get()](QNetworkReply* asking, QAuthenticator* auth) {
-                     if (asking != target || answered || UserName.empty()) return;
-                     answered = true;
-                     auth->setUser(Latin1(UserName));
-                     auth->setPassword(Latin1(Password));
-                   });
 
   QEventLoop loop;
   QTimer timer;
@@ -67,6 +57,9 @@ std::string QtHttpTransport::OpenURL() {
 std::string QtHttpTransport::BodyOf(QNetworkReply& reply, bool timedOut) {
   const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
   if (timedOut || !status.isValid()) return "";  // no connection, or no answer in time
+  // The connection broke during the answer: what came is not the whole answer, so it counts as none.
+  const QNetworkReply::NetworkError error = reply.error();
+  if (error != QNetworkReply::NoError && error < QNetworkReply::ProxyConnectionRefusedError) return "";
   const QByteArray bytes = reply.readAll();
   std::string body(bytes.constData(), static_cast<std::size_t>(bytes.size()));
   const int code = status.toInt();

@@ -16,9 +16,9 @@ class QtHttpTransport final : public HttpTransport {
   // The time-out is "RequestTimeout" of section "Settings" (seconds, default 60), read at each request.
   explicit QtHttpTransport(const SettingsStore& settings);
 
-  // A GET of URL, with basic authentication when UserName is set. A refusal (401, 403) gives a body
+  // A GET of URL, with basic authentication sent along when UserName is set. A refusal (401, 403) gives a body
   // holding "Unauthorized"; another error status gives the body as it came; no connection or no
-  // answer within the time-out gives "". The bytes come back untouched.
+  // answer within the time-out gives "", and so does an answer cut short by a broken connection. The bytes come back untouched.
   std::string OpenURL() override;
 
  private:
