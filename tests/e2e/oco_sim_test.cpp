@@ -1,8 +1,8 @@
-// oco-sim over real HTTP: the shape of each path's answer on the sample dataset, each fault kind,
-// the request log and the login. Expected values are read off support/samples/sample.dat by hand.
+// oco-sim over real HTTP: the shape of each path's answer on the sample dataset, the request log
+// and the login; expected values are read off support/samples/sample.dat by hand. Its faults are
+// seen through the program's transfer (web_transfers_e2e_test.cpp).
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <fstream>
 #include <memory>
 #include <sstream>
@@ -119,47 +119,6 @@ TEST_F(OcoSimTest, OtherPathsAnswerInTheirFormats) {
   EXPECT_NE(Get("/CORS-Proxy/neighbors41/discrep_for_one?PID=ZZ0000").body.find("<TR><TD>UID</TD><TD>0</TD></TR>"),
             std::string::npos);
   EXPECT_NE(Get("/cgi-bin/get_mark_list.prl?1=COUNTY&2=NC").body.find("INPUT INCOMPLETE"), std::string::npos);
-}
-
-TEST_F(OcoSimTest, FaultsSpoilTheNextRequestsOfTheirPathOnly) {
-  const std::string target = "/cgi-bin/ds_pids.prl?1=FY3210";
-  const std::string good = Get(target).body;
-  struct Case {
-    const char* kind;
-    int status;           // 0: no answer at all
-    const char* holds;    // in the upper-cased body
-    bool complete;
-  };
-  const Case cases[] = {
-      {"unauthorized", 401, "UNAUTHORIZED", true},     {"input-incomplete", 200, "INPUT INCOMPLETE", true},
-      {"error-report", 500, "ERROR REPORT", true},     {"temporarily-unavailable", 503, "TEMPORARILY UNAVAILABLE", true},
-      {"empty", 200, "", true},                        {"silent", 0, "", false},
-      {"slow=600", 200, "HILLSBORO", true},            {"cut", 200, "", false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.kind);
-    ASSERT_EQ(Get("/sim/fault?path=/cgi-bin/ds_pids&kind=" + std::string(c.kind) + "&count=2").status, 200);
-    EXPECT_TRUE(Get("/CORS-Proxy/get_cities/corspid?st=NC").complete);
-    for (int i = 0; i < 2; ++i) {
-      const auto start = std::chrono::steady_clock::now();
-      const PlainHttpReply reply = Get(target, 1500);
-      const auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
-      EXPECT_EQ(reply.status, c.status);
-      EXPECT_EQ(reply.complete, c.complete);
-      EXPECT_NE(UCase(reply.body).find(c.holds), std::string::npos);
-      const std::string kind = c.kind;
-      if (kind == "empty") {
-        EXPECT_EQ(reply.body, "");
-      } else if (kind == "cut") {
-        EXPECT_EQ(reply.body, good.substr(0, good.size() / 2));
-      } else if (kind == "slow=600") {
-        EXPECT_GE(ms.count(), 600);
-      } else if (kind == "unauthorized") {
-        EXPECT_NE(reply.head.find("\r\nWWW-Authenticate: Basic"), std::string::npos);
-      }
-    }
-    EXPECT_EQ(Get(target).body, good);  // the third request is served again
-  }
 }
 
 TEST_F(OcoSimTest, LogHoldsTheRequestLinesAsSentUntilReset) {

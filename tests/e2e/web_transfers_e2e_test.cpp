@@ -25,7 +25,7 @@ TEST(WebTransfersOverHttp, ClassifyWhatTheServiceAnswers) {
   int argc = 0;
   QCoreApplication app(argc, nullptr);
   OcoSimProcess sim(SampleDataset(), {"--user", "surveyor", "--password", "level"});
-  for (const auto& c : ReadRows("web/transfers_e2e.txt", 18, '|')) {
+  for (const auto& c : ReadRows("web/transfers_e2e.txt", 19, '|')) {
     ASSERT_EQ(c.size(), 7u);
     const std::string name = c[0] + " " + c[1] + " " + c[3];
     const std::string op = c[0];
