@@ -12,6 +12,7 @@
 #include "view/class_filter.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
+#include "web/update_by_pid.hpp"
 
 namespace benchlog {
 namespace {
@@ -59,6 +60,10 @@ void RegisterExportCommands(CommandTable& table) {
   table.Register("mnuViewVcl", mnuViewVcl);
 }
 
+void RegisterWebCommands(CommandTable& table) {
+  table.Register("mnuUpdateByPID", [](Session& s, Platform& p) { mnuUpdateByPID(s, p); });
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -73,6 +78,7 @@ CommandTable BuildCommandTable() {
   RegisterDatasetCommands(table);
   RegisterViewCommands(table);
   RegisterExportCommands(table);
+  RegisterWebCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;

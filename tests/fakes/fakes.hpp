@@ -40,9 +40,12 @@ class RecordingShell final : public Shell {
     opened.push_back(path);
     return true;
   }
-  bool MoveToTrash(const std::string&) override { throw std::logic_error("RecordingShell: no trash expected"); }
+  bool MoveToTrash(const std::string& path) override {
+    trashed.push_back(path);
+    return true;
+  }
   bool RunSystemInformation() override { return false; }
-  std::vector<std::string> opened;
+  std::vector<std::string> opened, trashed;
 };
 
 // Answers come from queues, filled by the test before the command runs. A question with no
