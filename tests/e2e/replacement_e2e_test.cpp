@@ -1,0 +1,143 @@
+// The replacement of Descriptions end to end: By PID and CORS by state against oco-sim through the
+// program's Qt transfer, on a copy of the sample dataset; the result byte for byte, its index as a
+// fresh build makes it; and a failing download or disk that leaves dataset and index as they were.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <filesystem>
+
+#include "common/files.hpp"
+#include "common/text.hpp"
+#include "dataset/build_mark_index.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/file_size_limit.hpp"
+#include "fakes/oco_sim_process.hpp"
+#include "fakes/plain_http_get.hpp"
+#include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
+#include "platform/qt/qt_http_transport.hpp"
+#include "session/dataset_paths.hpp"
+#include "session/frm_view.hpp"
+#include "web/update_by_pid.hpp"
+
+namespace benchlog::testing {
+namespace {
+
+// The Qt transfer that, just before request number `faultAt`, tells oco-sim to answer the next five
+// requests for Descriptions with an empty body.
+class FaultingTransport final : public HttpTransport {
+ public:
+  FaultingTransport(HttpTransport& inner, std::string simUrl, int faultAt)
+      : inner_(inner), simUrl_(std::move(simUrl)), faultAt_(faultAt) {}
+  std::string OpenURL() override {
+    if (++requests_ == faultAt_) {
+      EXPECT_EQ(PlainHttpGet(simUrl_ + "/sim/fault?path=/cgi-bin/ds_pids.prl&kind=empty&count=5").status, 200);
+    }
+    inner_.URL = URL;
+    return inner_.OpenURL();
+  }
+
+ private:
+  HttpTransport& inner_;
+  std::string simUrl_;
+  int faultAt_;
+  int requests_ = 0;
+};
+
+struct UpdateRun {
+  int argc = 0;
+  QCoreApplication app{argc, nullptr};
+  OcoSimProcess sim{TestData("web/replace/service.dat")};
+  TempFolder folder;
+  FakePlatform fake{folder.Path()};
+  qt::QtHttpTransport transport{fake.settings};
+  TestSession session;
+  std::string oldDataset, oldIndex;
+
+  UpdateRun() {
+    fake.settings.SaveSetting("Settings", "ServiceAddress", sim.BaseUrl());
+    fake.settings.SaveSetting("Settings", "RetryWait", "0.05");
+    fake.settings.SaveSetting("Settings", "RequestTimeout", "0.5");
+    fake.platform.http = &transport;
+    oldDataset = ReadWholeFile(SampleDataset());
+    session.dataset.DatFile = folder.Write("sample.dat", oldDataset);
+    SetDerivedPaths(session, folder.Path());
+    EXPECT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex,
+                               fake.platform));
+    oldIndex = ReadWholeFile(session.dataset.IndexFile);
+  }
+
+  std::string Messages() const {
+    std::vector<std::string> shown;
+    for (const auto& m : fake.ui.messages)
+      shown.push_back((m.icon == MsgIcon::Critical ? "C/" : "-/") + m.title + "/" + m.text);
+    return Join(shown, " + ");
+  }
+
+  // The dataset is `expected` byte for byte, and its index file and the index in memory are what a
+  // fresh build of it makes.
+  void ExpectDataset(const std::string& expected) {
+    EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), ReadWholeFile(TestData(expected)));
+    MarkIndex fresh;
+    const std::string freshPath = folder.File("fresh.ndx");
+    ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, freshPath, fresh, fake.platform));
+    EXPECT_EQ(ReadWholeFile(session.dataset.IndexFile), ReadWholeFile(freshPath));
+    EXPECT_EQ(session.dataset.markIndex.Elements(), fresh.Elements());
+  }
+
+  void ExpectUnchanged() {
+    EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), oldDataset);
+    EXPECT_EQ(ReadWholeFile(session.dataset.IndexFile), oldIndex);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 2);  // no work file left
+  }
+};
+
+TEST(ReplacementOverHttp, ByPidReplacesTheTypedMarks) {
+  UpdateRun run;
+  run.fake.ui.modalActions.push_back([](DialogModel& model) {
+    auto& view = dynamic_cast<frmView&>(model);
+    EXPECT_EQ(view.Caption, "Enter list of PIDs (1000 Maximum):");
+    view.txtViewFile = "FY3209\r\nEZ1203\r\nFX2230";
+  });
+  mnuUpdateByPID(run.session, run.fake.platform);
+  EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
+  run.ExpectDataset("web/replace/by_pid_expected.dat");
+}
+
+TEST(ReplacementOverHttp, CorsByStateAddsTheStationsOfTheState) {
+  UpdateRun run;
+  UpdateCorsOfState("NC", run.session, run.fake.platform);
+  EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
+  run.ExpectDataset("web/replace/cors_expected.dat");
+}
+
+// A project update stops at a failure of its download; here the second of two batches fails.
+TEST(ReplacementOverHttp, AFailingSecondBatchLeavesTheDatasetAsItWas) {
+  UpdateRun run;
+  FaultingTransport faulting(run.transport, run.sim.BaseUrl(), 2);
+  run.fake.platform.http = &faulting;
+  std::vector<std::string> pids(101, "EZ1203");
+  pids[0] = "FY3209";
+  ReplaceDescriptionsOf(ReplaceCommand::kProject, pids, 0, run.session.dataset, run.fake.platform);
+  EXPECT_EQ(run.Messages(), "C/Import from Internet by Project/Request timeout.\r\nNo response received.");
+  run.ExpectUnchanged();
+}
+
+// By PID goes on whatever the download says, so the disk is what fails: a write stops half-way.
+TEST(ReplacementOverHttp, AWriteThatFailsHalfWayLeavesTheDatasetAsItWas) {
+  UpdateRun run;
+  run.fake.ui.modalActions.push_back(
+      [](DialogModel& model) { dynamic_cast<frmView&>(model).txtViewFile = "FY3209\r\nEZ1203"; });
+  {
+    FileSizeLimit limit(run.oldDataset.size() / 2);
+    mnuUpdateByPID(run.session, run.fake.platform);
+  }
+  ASSERT_EQ(run.fake.ui.messages.size(), 1u);
+  EXPECT_EQ(run.fake.ui.messages[0].title, "Error 75");
+  EXPECT_EQ(run.fake.ui.messages[0].icon, MsgIcon::Critical);
+  EXPECT_NE(run.fake.ui.messages[0].text.find("sample.dat"), std::string::npos);
+  run.ExpectUnchanged();
+}
+
+}  // namespace
+}  // namespace benchlog::testing
