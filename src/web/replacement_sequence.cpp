@@ -7,6 +7,7 @@
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/compress_dataset.hpp"
+#include "dataset/dataset_size_limit.hpp"
 #include "dataset/line_ends.hpp"
 #include "web/replacement_files.hpp"
 #include "web/response_lines.hpp"
@@ -39,7 +40,7 @@ class Replacement {
       WriteNewDataset();
       progress_.Hide();
       if (rules_.compress && !Compress()) return ErrorExit(errMsg_);
-      if (!Index()) return Abandon();
+      if (!FitsTheSizeLimit() || !Index()) return Abandon();
       CommitReplacement(paths_, rules_.backupToTrash, platform_.shell, options_.betweenSteps);
       dataset_.markIndex = std::move(newIndex_);
       progress_.Hide();
@@ -140,6 +141,15 @@ class Replacement {
     errMsg_ = CompressDataset(paths_.workDataset, platform_);
     Step("compressed");
     return errMsg_.empty();
+  }
+
+  // A dataset past the size limit would give wrong look-ups: it is refused, the old one staying.
+  bool FitsTheSizeLimit() {
+    const std::string refusal = SizeLimitRefusal(FileLength(paths_.workDataset));
+    if (refusal.empty()) return true;
+    progress_.Hide();
+    platform_.ui.MsgBox(refusal, MsgButtons::Ok, MsgIcon::Exclamation, "Update from Internet");
+    return false;
   }
 
   // False when the build failed; it has told the user.
