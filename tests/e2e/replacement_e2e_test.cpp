@@ -18,6 +18,7 @@
 #include "platform/qt/qt_http_transport.hpp"
 #include "session/dataset_paths.hpp"
 #include "session/frm_view.hpp"
+#include "web/town_update.hpp"
 #include "web/update_by_pid.hpp"
 
 namespace benchlog::testing {
@@ -137,6 +138,19 @@ TEST(ReplacementOverHttp, AWriteThatFailsHalfWayLeavesTheDatasetAsItWas) {
   EXPECT_EQ(run.fake.ui.messages[0].icon, MsgIcon::Critical);
   EXPECT_NE(run.fake.ui.messages[0].text.find("sample.dat"), std::string::npos);
   run.ExpectUnchanged();
+}
+
+// The towns of a state fetched twice: the second time adds none and leaves the file as it was.
+TEST(ReplacementOverHttp, TownsOfAStateFetchedTwice) {
+  UpdateRun run;
+  GetTownsOfState("NC", run.fake.platform);
+  const std::string towns = ReadWholeFile(run.folder.File("Towns.txt"));
+  const std::vector<std::string> lines = Split(towns, "\r\n");
+  ASSERT_EQ(lines.size(), 4u);  // three quads, and nothing behind the last CR LF
+  EXPECT_EQ(lines[0].substr(0, 29), "CHAPEL HILL                  ");  // the quad of EZ1203, first in order
+  GetTownsOfState("NC", run.fake.platform);
+  EXPECT_EQ(run.Messages(), "-/Benchlog/" + std::to_string(lines.size() - 1) + " New towns added. + -/Benchlog/0 New towns added.");
+  EXPECT_EQ(ReadWholeFile(run.folder.File("Towns.txt")), towns);
 }
 
 }  // namespace
