@@ -4,6 +4,7 @@
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "export/ui/export_dialogs.hpp"
 #include "session/ui/session_dialogs.hpp"
+#include "web/ui/mark_list_dialogs.hpp"
 
 namespace benchlog::qt {
 
@@ -12,6 +13,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterSessionDialogs();
   RegisterDatasetDialogs();
   RegisterExportDialogs();
+  RegisterMarkListDialogs();
 }
 
 }  // namespace benchlog::qt
