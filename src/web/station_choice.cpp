@@ -1,11 +1,9 @@
 #include "web/station_choice.hpp"
 
 #include "common/text.hpp"
-#include "web/frm_listings.hpp"
 #include "web/keep_rule.hpp"
 
 namespace benchlog {
-namespace {
 
 KeptPids KeptSelection(const MarkIndex& markIndex, const frmListings& listings) {
   KeptPids kept;
@@ -19,8 +17,6 @@ KeptPids KeptSelection(const MarkIndex& markIndex, const frmListings& listings) 
   }
   return kept;
 }
-
-}  // namespace
 
 std::string StationsFound(std::size_t count) { return " " + std::to_string(count) + " stations found."; }
 

@@ -6,6 +6,7 @@
 
 #include "platform/platform.hpp"
 #include "session/session.hpp"
+#include "web/frm_listings.hpp"
 #include "web/replace_descriptions.hpp"
 
 namespace benchlog {
@@ -21,6 +22,9 @@ struct KeptPids {
   std::vector<std::string> pids;
   std::size_t notUpdated = 0;
 };
+
+// The selected entries of `listings` (PID at 1-6, order codes at 8 and 10) through the keep rule.
+KeptPids KeptSelection(const MarkIndex& markIndex, const frmListings& listings);
 
 // Shows frmListings with `entries` (choice entries: PID at 1-6, order codes at 8 and 10), the
 // pointer normal. An empty list ends the run. The selected entries pass the keep rule; more than
