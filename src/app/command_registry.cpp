@@ -12,6 +12,9 @@
 #include "view/class_filter.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
+#include "web/update_by_county.hpp"
+#include "web/update_by_project.hpp"
+#include "web/update_by_radius.hpp"
 
 namespace benchlog {
 namespace {
@@ -59,6 +62,12 @@ void RegisterExportCommands(CommandTable& table) {
   table.Register("mnuViewVcl", mnuViewVcl);
 }
 
+void RegisterWebCommands(CommandTable& table) {
+  table.Register("mnuUpdateByCounty", mnuUpdateByCounty);
+  table.Register("mnuUpdtLatLonRad", mnuUpdtLatLonRad);
+  table.Register("mnuUpdtbyProj", mnuUpdtbyProj);
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -73,6 +82,7 @@ CommandTable BuildCommandTable() {
   RegisterDatasetCommands(table);
   RegisterViewCommands(table);
   RegisterExportCommands(table);
+  RegisterWebCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;
