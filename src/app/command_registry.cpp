@@ -12,7 +12,11 @@
 #include "view/class_filter.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
+#include "web/update_by_county.hpp"
 #include "web/update_by_pid.hpp"
+#include "web/update_by_project.hpp"
+#include "web/town_update.hpp"
+#include "web/update_by_radius.hpp"
 
 namespace benchlog {
 namespace {
@@ -61,7 +65,12 @@ void RegisterExportCommands(CommandTable& table) {
 }
 
 void RegisterWebCommands(CommandTable& table) {
+  table.Register("mnuUpdateByCounty", mnuUpdateByCounty);
+  table.Register("mnuUpdtLatLonRad", mnuUpdtLatLonRad);
+  table.Register("mnuUpdtbyProj", mnuUpdtbyProj);
   table.Register("mnuUpdateByPID", [](Session& s, Platform& p) { mnuUpdateByPID(s, p); });
+  table.Register("mnuCORSbyST", mnuCORSbyST);
+  table.Register("mnuGetTownOCO", mnuGetTownOCO);
 }
 
 bool InMenuTree(const std::string& name) {

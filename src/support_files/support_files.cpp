@@ -24,6 +24,7 @@ void SupportFiles::Refresh(const std::string& folder, Clock::TimePoint now) {
     folder_ = folder;
     contributors_ = {};
     categories_ = {};
+    fips_ = {};
   } else if (asked_ && now - lastAsked_ < kStampRecheck) {
     return;
   }
@@ -31,6 +32,7 @@ void SupportFiles::Refresh(const std::string& folder, Clock::TimePoint now) {
   lastAsked_ = now;
   ForgetIfChanged(contributors_, kContributorsFileName);
   ForgetIfChanged(categories_, kMonumentCategoryFileName);
+  ForgetIfChanged(fips_, kCountryFileName);
 }
 
 template <typename Table>
@@ -61,6 +63,10 @@ std::shared_ptr<const ContributorTable> SupportFiles::Contributors() {
 
 std::shared_ptr<const CategoryTable> SupportFiles::MonumentCategories() {
   return Get(categories_, kMonumentCategoryFileName, ReadCategoryTable);
+}
+
+std::shared_ptr<const FipsIndex> SupportFiles::Fips() {
+  return Get(fips_, kCountryFileName, [](const std::string& path) { return FipsIndex(path); });
 }
 
 }  // namespace benchlog

@@ -11,6 +11,7 @@
 
 #include "platform/clock.hpp"
 #include "support_files/contributors.hpp"
+#include "support_files/country_file.hpp"
 #include "support_files/monument_category.hpp"
 
 namespace benchlog {
@@ -41,6 +42,8 @@ class SupportFiles {
   // the file is missing. Safe to call from several threads.
   std::shared_ptr<const ContributorTable> Contributors();
   std::shared_ptr<const CategoryTable> MonumentCategories();
+  // The FIPS look-up of "Country.dat", built at the first county look-up and kept.
+  std::shared_ptr<const FipsIndex> Fips();
 
  private:
   template <typename Table>
@@ -59,6 +62,7 @@ class SupportFiles {
   bool asked_ = false;
   Slot<ContributorTable> contributors_;
   Slot<CategoryTable> categories_;
+  Slot<FipsIndex> fips_;
 };
 
 }  // namespace benchlog

@@ -9,6 +9,7 @@
 #include "support_files/towns_file.hpp"
 #include "web/replacement_rules.hpp"
 #include "web/service_address.hpp"
+#include "web/state_choice.hpp"
 #include "web/web_transfers.hpp"
 
 namespace benchlog {
@@ -86,6 +87,12 @@ void GetTownsOfState(const std::string& stateCode, Platform& platform) {
   platform.ui.SetHourglass(false);
   progress.Hide();
   platform.ui.MsgBox(std::to_string(count) + " New towns added.");
+}
+
+void mnuGetTownOCO(Session& session, Platform& platform) {
+  const frmOptions& states = ChooseState(session, platform);
+  if (states.Tag.empty()) return;
+  GetTownsOfState(Left(states.cboChoices, 2), platform);
 }
 
 }  // namespace benchlog

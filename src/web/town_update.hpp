@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/platform.hpp"
+#include "session/session.hpp"
 
 namespace benchlog {
 
@@ -32,5 +33,8 @@ MergedTowns MergeTowns(std::string_view text);
 // where n is the rows fetched less every line left out, old duplicates included (so it can be
 // negative). A failure of the transfer is shown (critical, "Get Towns From OCO").
 void GetTownsOfState(const std::string& stateCode, Platform& platform);
+
+// mnuGetTownOCO: the state from frmOptions (Esc ends it), then GetTownsOfState.
+void mnuGetTownOCO(Session& session, Platform& platform);
 
 }  // namespace benchlog

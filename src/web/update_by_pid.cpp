@@ -3,6 +3,7 @@
 #include "common/text.hpp"
 #include "session/frm_view.hpp"
 #include "web/service_address.hpp"
+#include "web/state_choice.hpp"
 #include "web/web_transfers.hpp"
 
 namespace benchlog {
@@ -65,6 +66,13 @@ void UpdateCorsOfState(const std::string& stateCode, Session& session, Platform&
     return;
   }
   ReplaceDescriptionsOf(ReplaceCommand::kCorsByState, CorsPidsOfAnswer(answer), 0, session.dataset, platform, options);
+}
+
+void mnuCORSbyST(Session& session, Platform& platform) {
+  if (NoDataset(session, platform)) return;
+  if (RefusedForReplacement(ReplaceCommand::kCorsByState, session.dataset.DatFile, platform.ui)) return;
+  const std::string stateCode = Left(ChooseState(session, platform).cboChoices, 2);
+  UpdateCorsOfState(stateCode, session, platform);
 }
 
 }  // namespace benchlog

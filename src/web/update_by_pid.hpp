@@ -27,4 +27,8 @@ std::vector<std::string> CorsPidsOfAnswer(std::string_view answer);
 void UpdateCorsOfState(const std::string& stateCode, Session& session, Platform& platform,
                        const ReplacementOptions& options = {});
 
+// mnuCORSbyST: the read-only and line-end refusals, the state from frmOptions, then
+// UpdateCorsOfState.
+void mnuCORSbyST(Session& session, Platform& platform);
+
 }  // namespace benchlog

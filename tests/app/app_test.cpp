@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
-#include <tuple>
+
+#include <filesystem>
 
 #include "app/app_commands.hpp"
 #include "app/command_registry.hpp"
@@ -7,6 +8,7 @@
 #include "app/demo_dataset.hpp"
 #include "app/frm_about.hpp"
 #include "app/main_window.hpp"
+#include "app/program_folder.hpp"
 #include "app/menu_tree.hpp"
 #include "app/recent_files.hpp"
 #include "common/files.hpp"
@@ -24,6 +26,7 @@ namespace {
 using testing::FakePlatform;
 using testing::TempFolder;
 using testing::MemorySettings;
+namespace fs = std::filesystem;
 
 // The items of a table field, ";" between them.
 std::vector<std::string> Items(const std::string& text) { return text.empty() ? std::vector<std::string>{} : Split(text, ";"); }
@@ -85,9 +88,8 @@ TEST_F(AppFolder, MissingFilesEndTheProgramWithACriticalBox) {
   const auto& box = fake.ui.messages[0];
   EXPECT_EQ(box.icon, MsgIcon::Critical);
   EXPECT_EQ(box.title, "Benchlog");
-  EXPECT_EQ(box.text,
-            "The following files were not found:\r\nContrib.dat\r\nCountry.dat\r\nGroups.dat\r\n"
-            "Monument_Category.dat\r\nZones.txt\r\nHorizontal_Datum.dat\r\nEllipsoid.dat\r\nTowns.txt\r\n");
+  // The list itself, in its order, is checked by the CheckLoadFiles case table.
+  EXPECT_EQ(box.text, "The following files were not found:\r\n" + CheckLoadFiles(fake.platform, config));
 }
 
 TEST_F(AppFolder, FailingEccentricityIsIgnoredAndSkipsTheFileTest) {
@@ -110,20 +112,12 @@ TEST(ClosingStep, SavesPositionOnlyInTheNormalState) {
 }
 
 TEST(WindowPlacement, SavedGeometryIsBroughtInsideTheScreen) {
-  struct Case { ScreenRect wanted, area, expected; };
-  const Case cases[] = {
-      {{10, 20, 300, 200}, {0, 0, 800, 600}, {10, 20, 300, 200}},        // fits: stays
-      {{0, 0, 1000, 700}, {0, 0, 800, 600}, {0, 0, 800, 600}},           // larger: shrinks
-      {{700, 550, 300, 200}, {0, 0, 800, 600}, {500, 400, 300, 200}},    // sticks out: moves in
-      {{-50, -20, 300, 200}, {0, 0, 800, 600}, {0, 0, 300, 200}},        // off to the left and top
-      {{100, 100, 400, 300}, {1920, 0, 1280, 1024}, {1920, 100, 400, 300}},  // a screen to the right
-      {{5000, 5000, 4000, 3000}, {0, 24, 800, 576}, {0, 24, 800, 576}},  // below a panel
-  };
-  for (const auto& c : cases) {
-    const ScreenRect got = FitInside(c.wanted, c.area);
-    EXPECT_EQ(std::tie(got.left, got.top, got.width, got.height),
-              std::tie(c.expected.left, c.expected.top, c.expected.width, c.expected.height))
-        << c.wanted.left << "," << c.wanted.top;
+  for (const auto& c : testing::ReadRows("app/fit_inside.txt", 6)) {
+    std::vector<long> n;
+    for (const auto& field : c) n.push_back(std::stol(field));
+    const ScreenRect got = FitInside({n[0], n[1], n[2], n[3]}, {n[4], n[5], n[6], n[7]});
+    EXPECT_EQ((std::vector<long>{got.left, got.top, got.width, got.height}), std::vector<long>(n.begin() + 8, n.end()))
+        << c[0] << "," << c[1];
   }
 }
 
@@ -187,28 +181,29 @@ struct CommandsTest : ::testing::Test, AppScene {
   void Run(const std::string& name) { table.Run(name, session, fake.platform); }
 };
 
-TEST_F(CommandsTest, UnbuiltCommandSaysSoInAPlainBox) {
-  CommandTable empty;
-  empty.Run("mnuPlot", session, fake.platform);
-  ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "This command is not available yet.");
-  EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::None);
-  EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::Ok);
-}
-
-TEST_F(CommandsTest, FailuresAreTrappedAtTheCommandLevel) {
+// An unbuilt command says so in a plain box; failures are trapped at the command level, and a menu
+// name the tree does not declare fails the command that uses it.
+TEST_F(CommandsTest, UnbuiltCommandsAndFailuresEndInABox) {
   CommandTable commands;
   commands.Register("cancelled", [](Session&, Platform&) { throw CancelError(); });
   commands.Register("failed", [](Session&, Platform& p) {
     p.dlgProcessing.Show();
     throw SubscriptOutOfRange();
   });
+  commands.Register("misspelt", [](Session& s, Platform&) { s.menu["mnuViewHCL"].enabled = true; });
   commands.Run("cancelled", session, fake.platform);
   EXPECT_TRUE(fake.ui.messages.empty());
-  commands.Run("failed", session, fake.platform);
+  commands.Run("mnuPlot", session, fake.platform);
   ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "Subscript out of range");
+  EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::None);
+  EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::Ok);
+  commands.Run("failed", session, fake.platform);
   EXPECT_FALSE(fake.progress.Visible());
+  commands.Run("misspelt", session, fake.platform);
+  EXPECT_EQ(fake.ui.MessageTexts(), (std::vector<std::string>{"This command is not available yet.", "Subscript out of range",
+                                                               "The menu has no entry named \"mnuViewHCL\"."}));
+  EXPECT_FALSE(session.menu.Has("mnuViewHCL"));
+  EXPECT_TRUE(session.menu.Has("mnuViewHcl"));
 }
 
 TEST_F(CommandsTest, OpenDatAsksForADatasetAndRemembersIt) {
@@ -317,6 +312,36 @@ TEST(DemoDataset, FirstRunCopiesTheSampleOnce) {
 
   // A dataset is chosen now: nothing more happens.
   EXPECT_EQ(PrepareDemoDataset(settings, folder.File("samples"), demo), "");
+}
+
+// The program's folder: the executable's own when it holds the configuration and may be written,
+// else the user's folder, filled from the installed data folder without overwriting.
+TEST(ProgramFolder, IsTheExecutablesFolderOnlyWhenItHoldsTheConfigurationAndMayBeWritten) {
+  struct Case { bool iniBesideExe, exeWritable, expectExeFolder; };
+  for (const Case c : {Case{true, true, true}, Case{true, false, false}, Case{false, true, false}}) {
+    SCOPED_TRACE(::testing::Message() << "ini " << c.iniBesideExe << ", writable " << c.exeWritable);
+    TempFolder root;
+    root.Write("share/benchlog/Benchlog.ini", "ELLIPSOID A=6378137\r\n");
+    root.Write("share/benchlog/Towns.txt", "INSTALLED\r\n");
+    root.Write("share/benchlog/samples/sample.dat", "SAMPLE\r\n");
+    root.Write("user/Towns.txt", "UPDATED BY THE USER\r\n");
+    const std::string exe = root.File("bin"), user = root.File("user");
+    root.Write(c.iniBesideExe ? "bin/Benchlog.ini" : "bin/benchlog", "");
+    if (!c.exeWritable)
+      fs::permissions(exe, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write, fs::perm_options::remove);
+
+    const std::string chosen = ChooseProgramFolder(exe, user);
+    fs::permissions(exe, fs::perms::owner_write, fs::perm_options::add);
+    EXPECT_EQ(chosen, c.expectExeFolder ? exe : user);
+    EXPECT_EQ(FileExists(root.File("user/Benchlog.ini")), !c.expectExeFolder);
+    EXPECT_EQ(FileExists(root.File("user/samples/sample.dat")), !c.expectExeFolder);
+    EXPECT_EQ(ReadWholeFile(root.File("user/Towns.txt")), "UPDATED BY THE USER\r\n");
+  }
+}
+
+TEST(ProgramFolder, InstalledDataLiesInShareBesideTheBinFolder) {
+  EXPECT_EQ(InstalledDataFolder("/usr/bin"), "/usr/share/benchlog");
+  EXPECT_EQ(InstalledDataFolder("/opt/survey/bin/"), "/opt/survey/share/benchlog");
 }
 
 }  // namespace

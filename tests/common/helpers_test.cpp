@@ -1,11 +1,14 @@
-// The text and number helpers, each call against its expected result in tests/data/common/cases.txt.
+// The text and number helpers, each call against its expected result in tests/data/common/cases.txt;
+// then the whole-file helpers and the line reader.
 #include <gtest/gtest.h>
 
 #include <charconv>
 #include <clocale>
+#include <filesystem>
 #include <map>
 
 #include "common/dates.hpp"
+#include "common/files.hpp"
 #include "common/fit.hpp"
 #include "common/format.hpp"
 #include "common/line_input.hpp"
@@ -16,6 +19,7 @@
 #include "common/sort_by_column.hpp"
 #include "common/text.hpp"
 #include "common/text_checks.hpp"
+#include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
 #include "test_support.hpp"
 
@@ -23,6 +27,10 @@ namespace benchlog {
 namespace {
 
 using Args = testing::CallArgs;
+using testing::TempFolder;
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+using Lines = std::vector<std::string>;
 
 std::string Num(double value) {
   char text[64];  // + 0.0: no "-0"
@@ -30,7 +38,7 @@ std::string Num(double value) {
 }
 std::string Bool(bool value) { return value ? "1" : "0"; }
 std::size_t Size(const std::string& text) { return std::stoul(text); }
-std::vector<std::string> Lines(const std::string& text) {
+std::vector<std::string> Items(const std::string& text) {
   return text.empty() ? std::vector<std::string>{} : Split(text, ",");
 }
 
@@ -56,7 +64,7 @@ const testing::CallTable kCalls = {
     {"ReplaceAll", {3, [](const Args& a) { return ReplaceAll(a[0], a[1], a[2]); }}},
     {"FitToWidth", {2, [](const Args& a) { return FitToWidth(a[0], Size(a[1])); }}},
     {"SortByColumn", {2, [](const Args& a) {
-       auto lines = Lines(a[0]);
+       auto lines = Items(a[0]);
        SortByColumn(lines, Size(a[1]));
        return Join(lines, ",");
      }}},
@@ -70,7 +78,7 @@ const testing::CallTable kCalls = {
     {"SplitCrLf", {1, [](const Args& a) { return Join(SplitCrLf(a[0]), "|"); }}},
     {"PrintLine", {1, [](const Args& a) {
        PrintLine line;
-       for (const auto& item : Lines(a[0])) item[0] == 'T' ? line.Tab(Size(item.substr(1))) : line.Write(item.substr(1));
+       for (const auto& item : Items(a[0])) item[0] == 'T' ? line.Tab(Size(item.substr(1))) : line.Write(item.substr(1));
        const std::string column = std::to_string(line.Column());
        const std::string finished = line.Finish();
        return column + "|" + finished + "|" + std::to_string(line.Column());
@@ -128,6 +136,67 @@ TEST(SortByColumn, KeepsTheOrderOfAnInsertionSortOnALargeInput) {
   }
   SortByColumn(lines, 3);
   EXPECT_EQ(lines, expected);
+}
+
+TEST(Files, WriteAppendAndReadAreByteExact) {
+  TempFolder folder;
+  const std::string path = folder.File("a.dat");
+  WriteWholeFile(path, "A\0\xE9\r\n"s);
+  AppendToFile(path, "B\n");
+  EXPECT_EQ(ReadWholeFile(path), "A\0\xE9\r\nB\n"s);
+  EXPECT_EQ(FileLength(path), 7u);
+  WriteWholeFile(path, "");
+  EXPECT_EQ(FileLength(path), 0u);
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_FALSE(FileExists(folder.File("")));  // the folder itself is no file
+}
+
+TEST(Files, AMissingFileIsFileNotFound) {
+  TempFolder folder;
+  const std::string missing = folder.File("missing.dat");
+  EXPECT_EQ(FailureOf([&] { FileLength(missing); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { ReadWholeFile(missing); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { ReadWholeFile(folder.File("")); }), kFileNotFound);
+  EXPECT_EQ(FailureOf([&] { LineReader reader(missing); }), kFileNotFound);
+  EXPECT_FALSE(FileExists(missing));
+  EXPECT_NO_THROW(DeleteFileIfExists(missing));
+}
+
+TEST(Files, IsReadOnlyWhenTheFileCannotBeWritten) {
+  TempFolder folder;
+  const std::string path = folder.File("a.dat");
+  EXPECT_FALSE(IsReadOnly(path));  // missing
+  WriteWholeFile(path, "x");
+  EXPECT_FALSE(IsReadOnly(path));
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  EXPECT_TRUE(IsReadOnly(path));  // also for a user who could write it anyway
+  fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+  EXPECT_FALSE(IsReadOnly(path));
+}
+
+constexpr std::size_t kBuffer = LineReader::kBufferSize;
+
+// The lines read through either form of ReadLine; past the end it stays at the end.
+template <typename Line>
+Lines ReadAll(const std::string& path) {
+  LineReader reader(path);
+  Lines lines;
+  Line line;
+  while (reader.ReadLine(line)) lines.emplace_back(line);
+  EXPECT_FALSE(reader.ReadLine(line));
+  return lines;
+}
+
+TEST(LineReader, EndsLinesAtCrOrCrLfAndKeepsEveryOtherByte) {
+  TempFolder folder;
+  const std::string path = folder.File("lines.dat");
+  for (auto c : testing::ReadRows("common/line_reader_cases.txt", 12, '|')) {
+    for (auto& field : c)
+      field = ReplaceAll(ReplaceAll(field, "{x}", std::string(kBuffer - 1, 'x')), "{z}", std::string(kBuffer + 10, 'z'));
+    WriteWholeFile(path, c[1]);
+    EXPECT_EQ(ReadAll<std::string_view>(path), Lines(c.begin() + 2, c.end())) << c[0];
+    EXPECT_EQ(ReadAll<std::string>(path), Lines(c.begin() + 2, c.end())) << c[0];
+  }
 }
 
 }  // namespace

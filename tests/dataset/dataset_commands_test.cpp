@@ -9,13 +9,14 @@
 #include "common/runtime_failure.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/dataset_size_limit.hpp"
-#include "dataset/dataset_test_support.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/frm_get_file.hpp"
 #include "dataset/load_dataset_index.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/file_size_limit.hpp"
 #include "fakes/folder_snapshot.hpp"
+#include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
 #include "session/dataset_paths.hpp"
 #include "session/frm_select_points.hpp"
 #include "session/frm_view.hpp"
@@ -25,8 +26,9 @@ namespace benchlog {
 namespace {
 
 using testing::FakePlatform;
-using testing::Fixture;
 using testing::TempFolder;
+
+std::string Fixture(const std::string& name) { return ReadWholeFile(testing::TestData("dataset/" + name)); }
 
 // A folder that is the dataset's and the program's, a session and the commands.
 struct Scene {
@@ -72,7 +74,6 @@ TEST_F(DatasetCommandsTest, ReindexRebuildsBehindTheProgressDialog) {
   const std::string landmarks = Fixture("landmarks.dat");
   session.dataset.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,539 bytes
   session.dataset.IndexFile = IndexPathFor(folder.Path(), session.dataset.DatFile);
-  ASSERT_TRUE(table.Has("mnuReindex"));
 
   table.Run("mnuReindex", session, fake.platform);
 
@@ -108,10 +109,13 @@ TEST_F(DatasetCommandsTest, CompressDropsBlanksAndReindexes) {
   EXPECT_EQ(ReadWholeFile(session.dataset.IndexFile).substr(0, 6), "JK0001");
 }
 
-TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
+// New on a fresh name makes no file; on an existing one it asks first.
+TEST_F(DatasetCommandsTest, NewMakesNoFileAndAsksBeforeRemovingOne) {
   Open("layouts.dat", Fixture("layouts.dat"));
   const auto before = session.dataset.markIndex.Elements();
-  fake.ui.fileAnswers.push_back(folder.File("fresh.dat"));
+  const std::string dat = Dat(), ndx = Ndx();
+  fake.ui.fileAnswers = {folder.File("fresh.dat"), dat, dat};
+  fake.ui.msgAnswers = {MsgResult::No, MsgResult::Yes};
   Run("mnuFileNew");
   EXPECT_EQ(testing::Describe(fake.ui.fileDialogs.at(0)), "save|Create Dat File|Data Files (*.dat)|*.dat|" + folder.Path() + "/");
   EXPECT_EQ(session.dataset.DatFile, folder.File("fresh.dat"));
@@ -122,26 +126,18 @@ TEST_F(DatasetCommandsTest, NewOnAFreshNameMakesNoFile) {
   for (const char* view : {"mnuViewHcl", "mnuViewVcl", "mnuViewError"}) EXPECT_FALSE(session.menu[view].enabled) << view;
   EXPECT_TRUE(session.menu["mnuTools"].enabled);
   EXPECT_EQ(session.dataset.markIndex.Elements(), before);  // the old records stay until the next build
-}
-
-TEST_F(DatasetCommandsTest, NewOnAnExistingNameAsksFirst) {
-  Open("layouts.dat", Fixture("layouts.dat"));
-  const auto before = session.dataset.markIndex.Elements();
-  fake.ui.fileAnswers = {session.dataset.DatFile, session.dataset.DatFile};
-  fake.ui.msgAnswers = {MsgResult::No, MsgResult::Yes};
+  EXPECT_TRUE(fake.ui.messages.empty());
 
   Run("mnuFileNew");  // No: the file, its index and MarkIndex stay
   ASSERT_EQ(fake.ui.messages.size(), 1u);
   EXPECT_EQ(fake.ui.messages[0].text, "File exists.  Overwrite?");
   EXPECT_EQ(fake.ui.messages[0].title, "Create Mkdata File");
   EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::YesNo);
-  EXPECT_TRUE(FileExists(session.dataset.DatFile));
-  EXPECT_TRUE(FileExists(session.dataset.IndexFile));
+  EXPECT_TRUE(FileExists(dat) && FileExists(ndx));
   EXPECT_EQ(session.dataset.markIndex.Elements(), before);
 
   Run("mnuFileNew");  // Yes: both files go and the index is cleared
-  EXPECT_FALSE(FileExists(session.dataset.DatFile));
-  EXPECT_FALSE(FileExists(session.dataset.IndexFile));
+  EXPECT_FALSE(FileExists(dat) || FileExists(ndx));
   EXPECT_TRUE(session.dataset.markIndex.Empty());
 }
 

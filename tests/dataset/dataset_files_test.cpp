@@ -9,12 +9,13 @@
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/compress_dataset.hpp"
-#include "dataset/dataset_test_support.hpp"
 #include "dataset/dataset_text.hpp"
 #include "dataset/description_file.hpp"
 #include "dataset/load_dataset_index.hpp"
 #include "dataset/mark_lookup.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
+#include "fakes/test_paths.hpp"
 #include "fakes/test_rows.hpp"
 #include "session/index_record.hpp"
 
@@ -22,8 +23,11 @@ namespace benchlog {
 namespace {
 
 using testing::FakePlatform;
-using testing::Fixture;
 using testing::TempFolder;
+
+// The fixtures of tests/data/dataset, read or copied into the folder (returning the copy's path).
+std::string Fixture(const std::string& name) { return ReadWholeFile(testing::TestData("dataset/" + name)); }
+std::string CopyFixture(const TempFolder& folder, const std::string& name) { return folder.Write(name, Fixture(name)); }
 
 std::string Bool(bool value) { return value ? "1" : "0"; }
 
@@ -66,51 +70,38 @@ TEST(DatasetText, GivesTheResultsOfTheCaseTable) {
   testing::CheckCalls("dataset/cases.txt", 33, calls);
 }
 
-struct Golden {
-  const char* name;
-  std::size_t descriptions;
-  std::vector<const char*> pictures;  // files made beside the dataset before the build
-};
-
-class GoldenIndex : public ::testing::TestWithParam<Golden> {};
-
 // The index file matches the hand-made one byte for byte, and the built array has the builder's
 // layout: the records of all but the last Description, an empty element, the last record, the
 // sentinel. Loading the file gives the other layout: the records, the sentinel, an empty element.
-TEST_P(GoldenIndex, MatchesTheHandMadeIndex) {
-  const Golden& g = GetParam();
-  TempFolder folder;
-  const std::string dat = CopyFixture(folder, std::string(g.name) + ".dat");
-  for (const char* picture : g.pictures) folder.Write(picture, "");
-  const std::string ndx = folder.File(std::string(g.name) + ".ndx");
-  FakePlatform fake(folder.Path());
-  MarkIndex index;
+TEST(GoldenIndex, MatchesTheHandMadeIndex) {
+  for (const auto& g : testing::ReadRows("dataset/golden_indexes.txt", 6)) {
+    SCOPED_TRACE(g[0]);
+    TempFolder folder;
+    const std::string dat = CopyFixture(folder, g[0] + ".dat");
+    for (std::size_t i = 2; i < g.size(); ++i) folder.Write(g[i], "");
+    const std::string ndx = folder.File(g[0] + ".ndx");
+    FakePlatform fake(folder.Path());
+    MarkIndex index;
 
-  ASSERT_TRUE(BuildMarkIndex(dat, ndx, index, fake.platform));
-  EXPECT_TRUE(fake.ui.messages.empty());
-  const std::string expected = Fixture(std::string(g.name) + ".ndx");
-  EXPECT_EQ(ReadWholeFile(ndx), expected);
+    ASSERT_TRUE(BuildMarkIndex(dat, ndx, index, fake.platform));
+    EXPECT_TRUE(fake.ui.messages.empty());
+    const std::string expected = Fixture(g[0] + ".ndx");
+    EXPECT_EQ(ReadWholeFile(ndx), expected);
 
-  const std::vector<std::string> lines = SplitCrLf(expected);  // records, sentinel, ""
-  const std::size_t d = g.descriptions;
-  ASSERT_EQ(lines.size(), d + 2);
-  ASSERT_EQ(index.Size(), d + 2);
-  for (std::size_t i = 0; i + 1 < d; ++i) EXPECT_EQ(index[i], lines[i]) << "element " << i;
-  EXPECT_EQ(index[d - 1], "");
-  EXPECT_EQ(index[d], lines[d - 1]);
-  EXPECT_EQ(index[d + 1], lines[d]);
+    const std::vector<std::string> lines = SplitCrLf(expected);  // records, sentinel, ""
+    const std::size_t d = std::stoul(g[1]);
+    ASSERT_EQ(lines.size(), d + 2);
+    ASSERT_EQ(index.Size(), d + 2);
+    for (std::size_t i = 0; i + 1 < d; ++i) EXPECT_EQ(index[i], lines[i]) << "element " << i;
+    EXPECT_EQ(index[d - 1], "");
+    EXPECT_EQ(index[d], lines[d - 1]);
+    EXPECT_EQ(index[d + 1], lines[d]);
 
-  MarkIndex loaded;
-  LoadIndexFile(ndx, loaded);
-  EXPECT_EQ(loaded.Elements(), lines);
+    MarkIndex loaded;
+    LoadIndexFile(ndx, loaded);
+    EXPECT_EQ(loaded.Elements(), lines);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Fixtures, GoldenIndex,
-    ::testing::Values(Golden{"layouts", 4, {}}, Golden{"landmarks", 8, {}},
-                      Golden{"pictures", 3, {"EF0001ph.jpg", "EF0001sk.jpg", "EF0002sk.jpg", "EF0003ph.jpg"}},
-                      Golden{"empty", 1, {}}, Golden{"single", 1, {}}, Golden{"blanked", 2, {}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 struct IndexBuild : ::testing::Test {
   TempFolder folder;
@@ -147,34 +138,25 @@ TEST_F(IndexBuild, AdvancesTheBarOncePerDescriptionUpToItsMaximum) {
   EXPECT_EQ(values, (std::vector<int>{1, 2, 3, 4, 5, 5}));  // show, 4 steps, hide
 }
 
-TEST_F(IndexBuild, FailureIsShownAndTheOldIndexStays) {
-  const std::string ndx = folder.Write("gone.ndx", "old index\r\n");
+// A dataset that cannot be read or an index that cannot be written is shown and leaves the old
+// files; a dataset with the index's own name in the program's folder is never written over.
+TEST_F(IndexBuild, FailuresAreShownAndLeaveTheFiles) {
+  const std::string dat = CopyFixture(folder, "single.dat");
+  const std::string ndx = folder.Write("gone.ndx", "old index\r\n"), unwritable = folder.File("no/such/folder.ndx");
   fake.progress.Show();
   index.Set(0, "kept?");
   EXPECT_FALSE(BuildMarkIndex(folder.File("gone.dat"), ndx, index, fake.platform));
-  ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "File not found");
+  EXPECT_TRUE(index.Empty());  // cleared before the scan began
+  EXPECT_FALSE(fake.progress.Visible());
+  EXPECT_FALSE(BuildMarkIndex(dat, dat, index, fake.platform));
+  EXPECT_FALSE(BuildMarkIndex(dat, unwritable, index, fake.platform));
+  EXPECT_EQ(fake.ui.MessageTexts(), (std::vector<std::string>{"File not found", "Path/File access error",
+                                                               "Path/File access error: could not write " + unwritable +
+                                                                   " (No such file or directory)"}));
   EXPECT_EQ(fake.ui.messages[0].title, "Create Mark Index");
   EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::Critical);
-  EXPECT_FALSE(fake.progress.Visible());
   EXPECT_EQ(ReadWholeFile(ndx), "old index\r\n");
-  EXPECT_TRUE(index.Empty());  // cleared before the scan began
-}
-
-// A dataset with the index's own name in the program's folder is never written over.
-TEST_F(IndexBuild, NeverWritesOverTheDataset) {
-  const std::string dat = CopyFixture(folder, "single.dat");
-  EXPECT_FALSE(BuildMarkIndex(dat, dat, index, fake.platform));
   EXPECT_EQ(ReadWholeFile(dat), Fixture("single.dat"));
-  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Path/File access error"});
-}
-
-TEST_F(IndexBuild, AnUnwritableIndexIsReported) {
-  const std::string dat = CopyFixture(folder, "single.dat");
-  EXPECT_FALSE(BuildMarkIndex(dat, folder.File("no/such/folder.ndx"), index, fake.platform));
-  ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text,
-            "Path/File access error: could not write " + folder.File("no/such/folder.ndx") + " (No such file or directory)");
 }
 
 // A dataset folder and a separate program folder (App.Path), as on a real installation.
@@ -359,6 +341,7 @@ TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
   }
 }
 
+// A record of only a PID and an offset.
 std::string Rec(const char* pid, std::uint64_t offset) {
   IndexRecord r;
   r.Pid = pid;
@@ -420,24 +403,20 @@ TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
   }
 }
 
-TEST(CompressDataset, AMissingDatasetIsReportedAtTheReadingStage) {
-  TempFolder folder;
-  FakePlatform fake(folder.Path());
-  EXPECT_EQ(CompressDataset(folder.File("gone.dat"), fake.platform), "Unable to open .dat file for reading.");
-  ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "Unable to open .dat file for reading.\r\nFile not found");
-  EXPECT_FALSE(FileExists(folder.File("gone.dat")));
-}
-
-TEST(CompressDataset, AReadOnlyDatasetIsLeftWhole) {
+// A missing dataset is reported at the reading stage; a read-only one is left whole, with no
+// work file beside it.
+TEST(CompressDataset, AMissingOrReadOnlyDatasetIsReported) {
   TempFolder folder;
   const std::string dat = folder.Write("d.dat", " keep  \r\n  \r\n");
   std::filesystem::permissions(dat, std::filesystem::perms::owner_read);
   FakePlatform fake(folder.Path());
+  EXPECT_EQ(CompressDataset(folder.File("gone.dat"), fake.platform), "Unable to open .dat file for reading.");
+  EXPECT_FALSE(FileExists(folder.File("gone.dat")));
   fake.progress.Show();
   EXPECT_EQ(CompressDataset(dat, fake.platform), "Unable to open a file in the product directory for writing.");
   EXPECT_EQ(fake.ui.MessageTexts(),
-            std::vector<std::string>{"Unable to open a file in the product directory for writing.\r\nPath/File access error"});
+            (std::vector<std::string>{"Unable to open .dat file for reading.\r\nFile not found",
+                                      "Unable to open a file in the product directory for writing.\r\nPath/File access error"}));
   EXPECT_EQ(ReadWholeFile(dat), " keep  \r\n  \r\n");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 1);
   EXPECT_FALSE(fake.progress.Visible());

@@ -1,17 +1,27 @@
-// The working values of a mark: position texts, the projection by the zone's kind, the coordinate
-// texts and their patterns, the combined factors and UTM (the picture flags show in the golden
-// listings). The plane and UTM figures are those printed on the sample's data sheets
-// (support/samples/sample.dat).
+// A mark's record and its flags, the export's small helpers, the listing lines the golden
+// listings do not show, and the working values of a mark: position texts, the projection by the
+// zone's kind, the coordinate texts and their patterns, the combined factors and UTM (the picture
+// flags show in the golden listings). The plane and UTM figures are those printed on the sample's
+// data sheets (support/samples/sample.dat).
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
+#include <set>
+#include <string>
 #include <tuple>
 
+#include "common/files.hpp"
 #include "common/format.hpp"
 #include "common/number_text.hpp"
 #include "common/runtime_failure.hpp"
+#include "common/text.hpp"
+#include "export/export_names.hpp"
 #include "export/export_test_support.hpp"
+#include "export/listing_file.hpp"
+#include "export/listing_lines.hpp"
 #include "export/mark_values.hpp"
+#include "fakes/temp_folder.hpp"
 #include "fakes/test_paths.hpp"
 #include "geodesy/angle_text.hpp"
 #include "geodesy/lambert.hpp"
@@ -170,6 +180,124 @@ TEST_F(MarkValuesTest, FactorsAndUtmStayWhenAMarkHasNone) {
   EXPECT_LT(values.UtmEast, 500000) << "west of zone 18's meridian";
   setup.utmZoneText = "99999";
   EXPECT_THROW(ComputeUtmValues(setup, adjusted, values), RuntimeFailure);
+}
+
+std::string Bool(bool value) { return value ? "1" : "0"; }
+
+// A 4-wide field holding `value`, cleared when `clear` is "1".
+FixedText<4> Stored(const std::string& value, const std::string& clear) {
+  FixedText<4> field;
+  field = value;
+  if (clear == "1") field.Clear();
+  return field;
+}
+
+TEST(ExportHelpers, GiveTheResultsOfTheCaseTable) {
+  using Args = testing::CallArgs;
+  const testing::CallTable calls = {
+      {"FixedText", {2, [](const Args& a) {
+         const FixedText<4> field = Stored(a[0], a[1]);
+         return field.Str() + "|" + std::string(field.Trimmed()) + "|" + Bool(field.IsBlank());
+       }}},
+      {"FixedTextEquals", {3, [](const Args& a) { return Bool(Stored(a[0], a[1]) == a[2]); }}},
+      {"ElevationInFeet", {1, [](const Args& a) {
+         char text[32];
+         std::snprintf(text, sizeof text, "%.9g", static_cast<double>(ElevationInFeet(std::stof(a[0]))));
+         return std::string(text);
+       }}},
+      {"FieldText", {1, [](const Args& a) {
+         MarkRecord record;
+         record.Latitude = "360342.56888";
+         record.Net = "ABTHPS";
+         const auto text = FieldText(record, a[0]);
+         return text ? std::string(*text) : "no field";
+       }}},
+      {"ExportNames", {1, [](const Args& a) {
+         const ExportNames n = ExportNamesOf(a[0]);
+         return Join({n.stem, n.hcl, n.vcl, n.mdb, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
+       }}},
+  };
+  testing::CheckCalls("export/cases.txt", 26, calls);
+}
+
+// Every field is named once, and the widths add up to the record's size, so no field is missing
+// from the list of names and none is laid out wider than its width.
+TEST(MarkRecord, EveryFieldIsNamedOnceWithItsWidth) {
+  MarkRecord record;
+  std::set<std::string> names;
+  std::size_t total = 0;
+  VisitFields(record, [&](std::string_view name, const auto& field) {
+    EXPECT_TRUE(names.insert(std::string(name)).second) << name;
+    total += field.View().size();
+  });
+  EXPECT_EQ(sizeof(MarkRecord), total);
+}
+
+TEST(MarkRecord, ClearBlanksEveryField) {
+  MarkRecord record;
+  VisitFields(record, [](std::string_view, auto& field) { field = std::string(7000, 'Q'); });
+  ClearMarkRecord(record);
+  VisitFields(record, [](std::string_view name, const auto& field) { EXPECT_TRUE(field.IsBlank()) << name; });
+}
+
+TEST(MarkRecord, HorizontalAndVerticalFlags) {
+  for (const auto& c : testing::ReadRows("export/control_flags.txt", 9, '|')) {
+    MarkRecord record;
+    record.HorizOrder = c[0];
+    record.HorizType = c[1];
+    record.VertOrder = c[2];
+    EXPECT_EQ(HasHorizontalControl(record), c[3] == "1") << c[0] << "/" << c[1];
+    EXPECT_EQ(HasVerticalControl(record), c[4] == "1") << c[2];
+  }
+}
+
+// What the golden listings do not show: a vertical line without elevation or plane coordinates,
+// and the sort of lines in small letters and broken-off pieces.
+MarkRecord Hillsboro() {
+  MarkRecord r;
+  r.Designation = "HILLSBORO";
+  r.Pid = "FY3210";
+  r.VertDatum = "88";
+  r.VertOrder = "2";
+  r.VertClass = "0";
+  r.Stability = "A";
+  r.SatSuitable = "Y";
+  r.FirstDate = "19330612";
+  r.LastDate = "2004";
+  r.Condition = "N";
+  return r;
+}
+
+TEST(ListingLines, VerticalLineWithoutElevationOrCoordinates) {
+  MarkValues values;
+  values.LatText = "36 03 42.56888";
+  values.LonText = "079 07 18.55999";
+  values.SpcNorth = 256467.2494;
+  values.SpcEast = 598626.1651;
+  values.PhotoFlag = "Y";
+  values.SketchFlag = " ";
+  const std::string head = "HILLSBORO                      FY3210  88        36 03 42.56  079 07 18.55 2 0  ";
+  const std::string state = "A Y 1933 2004N Y  \r\n";  // from column 119
+  // An elevation of 0 is left out, the coordinates stay.
+  EXPECT_EQ(VerticalLine(Hillsboro(), "FY3210", values, 1.0, 1.0),
+            head + "256467   598626   " + std::string(20, ' ') + state);
+  // No plane coordinates: no elevation either.
+  values.SpcNorth = 0;
+  values.Elevation = 262.5f;
+  EXPECT_EQ(VerticalLine(Hillsboro(), "FY3210", values, 1.0, 1.0), head + std::string(38, ' ') + state);
+}
+
+// Sorted by whole lines and character codes: the empty element, a line broken off with leading
+// blanks, capitals before small letters; then name, then PID.
+TEST(ListingFile, ClosingSortsAndHeads) {
+  TempFolder folder;
+  const std::string path = folder.File("list.hcl");
+  {
+    ListingFile file(path);
+    file.Write("b 1 AB0002\r\nB 1 AB0003\r\nA 2 AB0001\r\n   tail\r\nA 1 AB0009\r\n");
+    file.Finish("HEAD\r\n");
+  }
+  EXPECT_EQ(ReadWholeFile(path), "HEAD\r\n\r\n   tail\r\nA 1 AB0009\r\nA 2 AB0001\r\nB 1 AB0003\r\nb 1 AB0002\r\n");
 }
 
 }  // namespace

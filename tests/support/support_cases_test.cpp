@@ -1,21 +1,30 @@
-// Look-ups in the support files, each against its expected result in tests/data/support/cases.txt.
+// Look-ups in the support files, each against its expected result in tests/data/support/cases.txt,
+// and when an edit of a file takes effect.
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <filesystem>
 
+#include "common/files.hpp"
+#include "common/line_input.hpp"
+#include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "export/parser/note_header.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
-#include "sample_lines.hpp"
 #include "support_files/contributors.hpp"
 #include "support_files/country_file.hpp"
 #include "support_files/monument_category.hpp"
+#include "support_files/support_files.hpp"
 #include "support_files/towns_file.hpp"
 
 namespace benchlog {
 namespace {
 
 using Args = testing::CallArgs;
+using testing::ManualClock;
+using testing::TempFolder;
 
 // The folder a row names: "fixture", "committed" or "missing".
 std::string Folder(const std::string& file) {
@@ -59,7 +68,8 @@ const testing::CallTable kCalls = {
      }}},
     {"TownNames", {1, [](const Args& a) {
        std::string names;
-       for (const auto& line : test::ReadLines(Folder(a[0]) + kTownsFileName)) names += ReadTownLine(line).name + ",";
+       LineReader reader(Folder(a[0]) + kTownsFileName);
+       for (std::string line; reader.ReadLine(line);) names += ReadTownLine(line).name + ",";
        return names;
      }}},
     {"Extent", {4, [](const Args& a) {
@@ -68,6 +78,40 @@ const testing::CallTable kCalls = {
 };
 
 TEST(SupportFiles, LookUpsGiveTheResultsOfTheCaseTable) { testing::CheckCalls("support/cases.txt", 108, kCalls); }
+
+// The tables stay as read for the whole of a command; the refresh at the start of the next
+// command sees an edit (also one that keeps the size), a removed file and a new folder.
+TEST(SupportFiles, EditsTakeEffectAtTheNextRefresh) {
+  TempFolder folder;
+  const std::string support = folder.Path() + "/";
+  const std::string path = folder.Write("Monument_Category.dat", "D DB\r\n");
+  ManualClock clock;
+  SupportFiles files;
+  auto category = [&] { return MonumentCategory(*files.MonumentCategories(), "DB"); };
+  auto nextCommand = [&] {
+    clock.now += kStampRecheck;
+    files.Refresh(support, clock.Now());
+  };
+
+  files.Refresh(support, clock.Now());
+  EXPECT_EQ(category(), "D");
+  WriteWholeFile(path, "L DB\r\n");
+  std::filesystem::last_write_time(path, std::filesystem::last_write_time(path) + std::chrono::seconds(5));
+  EXPECT_EQ(category(), "D");  // within the command
+  files.Refresh(support, clock.Now());
+  EXPECT_EQ(category(), "D");  // a refresh sooner than kStampRecheck asks nothing
+  nextCommand();
+  EXPECT_EQ(category(), "L");
+
+  std::filesystem::remove(path);
+  nextCommand();
+  EXPECT_THROW(category(), RuntimeFailure);
+
+  TempFolder other;
+  other.Write("Monument_Category.dat", "P DB\r\n");
+  files.Refresh(other.Path() + "/", clock.Now());
+  EXPECT_EQ(category(), "P");
+}
 
 }  // namespace
 }  // namespace benchlog

@@ -1,8 +1,9 @@
-// The support files: the fixtures' readers and the committed tables against the sources they are made from.
+// The committed sample dataset and support tables against the sources they are made from.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <map>
 #include <set>
 
@@ -12,8 +13,9 @@
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "export/parser/note_header.hpp"
+#include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
-#include "sample_lines.hpp"
+#include "fakes/test_paths.hpp"
 #include "support_files/contributors.hpp"
 #include "support_files/country_file.hpp"
 #include "support_files/monument_category.hpp"
@@ -21,6 +23,118 @@
 
 namespace benchlog {
 namespace {
+
+// The committed sample dataset, cut into its Descriptions.
+struct SampleDescription {
+  std::string pid;                 // columns 2-7 of its data lines
+  std::vector<std::string> lines;  // the header line first
+};
+
+// All lines of a file, read with the classic line input.
+std::vector<std::string> ReadLines(const std::string& path) {
+  LineReader reader(path);
+  std::vector<std::string> lines;
+  for (std::string line; reader.ReadLine(line);) lines.push_back(line);
+  return lines;
+}
+
+// Reads support/samples/sample.dat line by line; a Description starts at each header line.
+std::vector<SampleDescription> ReadSampleDataset() {
+  std::vector<SampleDescription> descriptions;
+  for (const std::string& line : ReadLines(testing::SampleDataset())) {
+    if (Left(line, 7) == "1      ") {
+      descriptions.push_back({});
+    } else if (!descriptions.empty() && descriptions.back().pid.empty()) {
+      descriptions.back().pid = Mid(line, 2, 6);
+    }
+    if (!descriptions.empty()) descriptions.back().lines.push_back(line);
+  }
+  return descriptions;
+}
+
+TEST(SampleDataset, DescriptionsOneAfterAnotherInCrLfLines) {
+  const std::string text = ReadWholeFile(testing::SampleDataset());
+  ASSERT_FALSE(text.empty());
+  EXPECT_EQ(text.rfind("\r\n"), text.size() - 2);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n') {
+      ASSERT_EQ(text[i - 1], '\r') << "a lone LF at byte " << i;
+    }
+    if (text[i] == '\r') {
+      ASSERT_EQ(text[i + 1], '\n') << "a lone CR at byte " << i;
+    }
+    ASSERT_TRUE(text[i] == '\r' || text[i] == '\n' || (text[i] >= ' ' && text[i] <= '~')) << "byte " << i;
+  }
+  EXPECT_EQ(Left(text, 7), "1      ");
+}
+
+TEST(SampleDataset, EveryDataLineCarriesItsDescriptionsPid) {
+  const auto descriptions = ReadSampleDataset();
+  ASSERT_GE(descriptions.size(), 40u);
+  std::set<std::string> pids;
+  for (const auto& d : descriptions) {
+    EXPECT_TRUE(pids.insert(d.pid).second) << d.pid;
+    bool pidLine = false;
+    for (std::size_t i = 1; i < d.lines.size(); ++i) {
+      const std::string& line = d.lines[i];
+      EXPECT_EQ(Mid(line, 1, 1), " ") << line;
+      EXPECT_EQ(Mid(line, 2, 6), d.pid) << line;
+      // Lines keep to 80 columns, but for a position whose long source word starts in column 69.
+      if (Mid(line, 8, 8) != "* NAD 83") {
+        EXPECT_LE(line.size(), 80u) << line;
+      }
+      if (Mid(line, 10, 15) == "PID         -  ") pidLine = Mid(line, 25, 6) == d.pid;
+    }
+    EXPECT_TRUE(pidLine) << d.pid;
+  }
+}
+
+TEST(SampleDataset, CoversTheKindsOfMarksAndLines) {
+  std::map<std::string, int> seen;
+  for (const auto& d : ReadSampleDataset()) {
+    for (const auto& line : d.lines) {
+      const std::string key = Mid(line, 10, 12);
+      for (const char* cls : {"CORS ", "FBN ", "CBN ", "HT_MOD ", "PACS ", "SACS "}) {
+        if (StartsWith(key, cls) && Mid(line, 22, 1) == "-") ++seen[cls];
+      }
+      if (Mid(line, 8, 9) == "* NAD 83(") ++seen[Mid(line, 26, 1) == "-" ? "long position" : "position"];
+      if (Mid(line, 8, 1) == "*" && Mid(line, 10, 7) == "NAVD 88") ++seen["height"];
+      if (Mid(line, 8, 1) == "*") ++seen["source " + Trim(Mid(line, 69))];
+      if (Mid(line, 8, 9) == "  HISTORY" && Mid(line, 24, 4) != "Date") ++seen["condition " + Trim(Mid(line, 33, 17))];
+      if (Mid(line, 8, 2) == "| " && !IsBlank(Mid(line, 13, 3))) {
+        ++seen[InStr(Mid(line, 17, 30), " RM ") ? "box RM" : InStr(line, "APPROX") ? "box approx" : "box other"];
+      }
+      if (Mid(line, 34, 25) == "SUPERSEDED SURVEY CONTROL") ++seen["superseded"];
+      if (Mid(line, 10, 15) == "HORZ ORDER  -  ") ++seen["horizontal"];
+      if (Mid(line, 10, 15) == "VERT ORDER  -  " && Mid(line, 35, 6) == "CLASS ") ++seen["vertical class"];
+      if (Mid(line, 10, 13) == "VERT ORDER  -" && Mid(line, 27, 6) == "POSTED") ++seen["posted"];
+      if (InStr(line, "and adjusted by") && InStr(line, "horizontal coordinates")) ++seen["adjusted phrase"];
+      if (InStr(line, "established by GPS")) ++seen["by GPS"];
+    }
+  }
+  for (const auto& row : testing::ReadRows("support/sample_kinds.txt", 43, '|')) EXPECT_GT(seen[row[0]], 0) << row[0];
+}
+
+TEST(SampleDataset, CountiesAreInTheCountryFileAndPhotosLieBeside) {
+  const FipsIndex index(testing::SourceSupport() + kCountryFileName);
+  int photos = 0, sketches = 0;
+  for (const auto& d : ReadSampleDataset()) {
+    for (const auto& line : d.lines) {
+      if (Mid(line, 10, 15) != "STATE/COUNTY-  ") continue;
+      const std::string fips = index.LookUp(Mid(line, 25, 2), Trim(Mid(line, 28, 20)));
+      EXPECT_EQ(fips.size(), 3u) << line;
+    }
+    const std::string folder = testing::SourceSupport() + "samples/";
+    for (const char* suffix : {"ph.jpg", "sk.jpg"}) {
+      const std::string path = folder + d.pid + suffix;
+      if (!FileExists(path)) continue;
+      (suffix[0] == 'p' ? photos : sketches)++;
+      EXPECT_EQ(Left(ReadWholeFile(path), 3), "\xFF\xD8\xFF") << path << " is no JPEG image";
+    }
+  }
+  EXPECT_GE(photos, 3);
+  EXPECT_GE(sketches, 3);
+}
 
 std::string Committed() { return testing::SourceSupport() + kCountryFileName; }
 
@@ -46,7 +160,7 @@ TEST(CommittedCountryFile, EveryStateAndTerritoryHasItsCounties) {
 
 TEST(CommittedMonumentCategory, EveryMarkerCodeOfTheSampleHasACategory) {
   std::set<std::string> codes;
-  for (const auto& description : test::ReadSampleDataset()) {
+  for (const auto& description : ReadSampleDataset()) {
     for (const auto& line : description.lines) {
       if (Mid(line, 8, 9) == "_MARKER: ") codes.insert(RTrim(Mid(line, 17, 2)));
     }
@@ -90,7 +204,7 @@ std::string AdjustingAgency(const std::vector<std::string>& lines, std::size_t i
 TEST(CommittedContributors, ResolveEveryAgencyOfTheSampleNotes) {
   const auto table = ContributorTable::Load(testing::SourceSupport() + kContributorsFileName);
   std::size_t headers = 0, phrases = 0;
-  for (const auto& description : test::ReadSampleDataset()) {
+  for (const auto& description : ReadSampleDataset()) {
     const auto& lines = description.lines;
     std::vector<std::string> historyAgencies;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -120,7 +234,7 @@ TEST(CommittedContributors, ResolveEveryAgencyOfTheSampleNotes) {
   EXPECT_GE(phrases, 30u);
 }
 
-std::vector<std::string> Lines(const std::string& name) { return test::ReadLines(testing::SourceSupport() + name); }
+std::vector<std::string> Lines(const std::string& name) { return ReadLines(testing::SourceSupport() + name); }
 
 TEST(SmallTables, EllipsoidsHoldTheirAxisAndFlattening) {
   const auto lines = Lines("Ellipsoid.dat");
@@ -152,10 +266,8 @@ TEST(SmallTables, DatumsNameKnownEllipsoidsAndTheSampleRealizations) {
 
 constexpr double kSecond = 1.0 / 3600.0;
 
-std::vector<std::string> CommittedTowns() { return test::ReadLines(testing::SourceSupport() + kTownsFileName); }
-
 TEST(CommittedTowns, SortedAndNoTwoAlikeInTheirFirst32Columns) {
-  const auto lines = CommittedTowns();
+  const auto lines = Lines(kTownsFileName);
   ASSERT_EQ(lines.size(), 32187u);  // every populated place of the Census table
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const std::string& line = lines[i];
@@ -171,7 +283,7 @@ TEST(CommittedTowns, SortedAndNoTwoAlikeInTheirFirst32Columns) {
 
 // Every place of the table has a line within half a second of its position.
 TEST(CommittedTowns, PositionsReadBackToTheSecond) {
-  const auto lines = CommittedTowns();
+  const auto lines = Lines(kTownsFileName);
   for (const auto& c : testing::ReadRows("support/census_towns.txt", 12, '|')) {
     bool near = false;
     for (const auto& line : lines) {
@@ -180,6 +292,22 @@ TEST(CommittedTowns, PositionsReadBackToTheSecond) {
                       std::fabs(town.longitude - std::stod(c[2])) <= 0.5 * kSecond + 1e-9);
     }
     EXPECT_TRUE(near) << c[0] << ": no line at the position";
+  }
+}
+
+// The generators of tools/ run again into a scratch folder must write the committed files byte
+// for byte: the files in support/ are what the tools make from the source tables.
+TEST(SupportGenerators, AreDeterministic) {
+  ASSERT_EQ(std::system("python3 --version > /dev/null 2>&1"), 0) << "python3 is not installed";
+  const std::string data = testing::SourceTables();
+  ASSERT_TRUE(FolderExists(data)) << "no source tables at " << data;
+  const testing::TempFolder out;
+  for (const auto& c : testing::ReadRows("support/generators.txt", 8)) {
+    const std::string command = "python3 -B '" BENCHLOG_SOURCE_DIR "/tools/" + c[0] + "' --data '" + data + "' --out '" +
+                                out.Path() + "' > /dev/null";
+    ASSERT_EQ(std::system(command.c_str()), 0) << command;
+    EXPECT_TRUE(ReadWholeFile(out.File(c[1])) == ReadWholeFile(testing::SourceSupport() + c[1]))
+        << c[1] << " differs from what " << c[0] << " makes";
   }
 }
 

@@ -1,10 +1,16 @@
 // The main window offscreen: the real menu bar against the expected tree, the keys, the commands
-// and the saved geometry.
+// and the saved geometry; and the Qt platform services it stands on.
 #include <QAction>
+#include <QFile>
 #include <QMenu>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QScreen>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -19,6 +25,11 @@
 #include "app/ui/frm_main.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/test_paths.hpp"
+#include "platform/qt/progress_window.hpp"
+#include "platform/qt/qt_settings_store.hpp"
+#include "platform/qt/qt_ui.hpp"
+#include "platform/qt/single_instance.hpp"
+#include "platform/qt/text_codec.hpp"
 
 using namespace benchlog;
 
@@ -49,19 +60,113 @@ QList<Row> ExpectedRows() {
   return rows;
 }
 
+// A session with the menu at its start and the program's commands.
+struct Scene {
+  testing::FakePlatform fake;
+  testing::TestSession session;
+  const CommandTable commands = BuildCommandTable();
+  Scene() { InitMenuState(session.menu); }
+};
+
 }  // namespace
 
 class FrmMainTest : public QObject {
   Q_OBJECT
+  QTemporaryDir config_;
 
  private slots:
-  void menuTreeMatchesTheProgramsTree() {
-    testing::FakePlatform fake;
-    testing::TestSession session;
-    InitMenuState(session.menu);
-    const CommandTable commands = BuildCommandTable();
-    qt::FrmMain window(session, fake.platform, commands);
+  void initTestCase() {
+    QVERIFY(config_.isValid());
+    qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+  }
 
+  // The Qt platform services: where and how settings are stored, the file filters, colour numbers,
+  // the progress window, the message box and the single-instance lock. The code page's conversions
+  // are checked through the viewer's text (frm_view_test.cpp).
+  void settingsLiveInOneIniFileWithAGroupPerSection() {
+    qt::QtSettingsStore store;
+    QCOMPARE(store.FileName(), config_.path() + "/Benchlog/Benchlog.conf");
+    QCOMPARE(store.GetSetting("frmMain", "Top", "dflt"), std::string("dflt"));
+    store.SaveSetting("frmMain", "Top", "1500");
+    store.SaveSetting("MRUList", "Name1", "/home/u/data/caf\xE9.dat");  // a Windows-1252 byte
+    QCOMPARE(store.GetSetting("frmMain", "Top", "dflt"), std::string("1500"));
+    QCOMPARE(store.GetSetting("MRUList", "Name1", ""), std::string("/home/u/data/caf\xE9.dat"));
+
+    QFile file(store.FileName());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    QVERIFY2(text.contains("[frmMain]\nTop=1500"), qPrintable(text));
+    QVERIFY2(text.contains("[MRUList]"), qPrintable(text));
+
+    // A value seeded by hand is read back.
+    QSettings seed(store.FileName(), QSettings::IniFormat);
+    seed.setValue("Settings/LastDatFullName", "/srv/marks.dat");
+    seed.sync();
+    qt::QtSettingsStore reread;
+    QCOMPARE(reread.GetSetting("Settings", "LastDatFullName", ""), std::string("/srv/marks.dat"));
+  }
+
+  void classicFiltersBecomeQtNameFilters() {
+    QCOMPARE(qt::QtNameFilters("Data Files (*.dat)|*.dat"), QStringList{"Data Files (*.dat)"});
+    QCOMPARE(qt::QtNameFilters("County Files (County.*)|County.*"), QStringList{"County Files (County.*)"});
+    QCOMPARE(qt::QtNameFilters("Text (*.txt;*.rpt)|*.txt;*.rpt|All Files|*.*"),
+             (QStringList{"Text (*.txt *.rpt)", "All Files (*.*)"}));
+    QCOMPARE(qt::QtNameFilters(""), QStringList{});
+  }
+
+  void colourNumbersAreBlueGreenRed() {
+    QCOMPARE(qt::ColorNumber(QColor(255, 0, 0)), 255u);
+    QCOMPARE(qt::ColorNumber(QColor(0, 0, 255)), 16711680u);
+    QCOMPARE(qt::ColorOfNumber(16777215), QColor(255, 255, 255));
+    QCOMPARE(qt::ColorOfNumber(0x00336699), QColor(0x99, 0x66, 0x33));
+  }
+
+  void progressWindowMirrorsItsModel() {
+    Progress model;
+    qt::ProgressWindow window(model);
+    model.caption = "Compress MKDATA file";
+    model.lblProcessing = "Compressing File";
+    model.lblInfo = "Please wait...";
+    model.max = 12;
+    model.value = 3;
+    model.Show();
+    QVERIFY(window.isVisible());
+    QCOMPARE(window.windowTitle(), QString("Compress MKDATA file"));
+    QCOMPARE(window.findChild<QLabel*>("lblProcessing")->text(), QString("Compressing File"));
+    QCOMPARE(window.findChild<QLabel*>("lblInfo")->text(), QString("Please wait..."));
+    QCOMPARE(window.findChild<QProgressBar*>("Prgb")->maximum(), 12);
+    QCOMPARE(window.findChild<QProgressBar*>("Prgb")->value(), 3);
+    model.Hide();
+    QVERIFY(!window.isVisible());
+  }
+
+  void messageBoxIsWideEnoughForItsTitle() {
+    const QString title = "Create Combined Dat File: a title longer than its text";
+    int width = 0;
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      QVERIFY(box);
+      width = box->width();
+      box->buttons().front()->click();
+    });
+    qt::QtUi ui;
+    ui.MsgBox(MessageRequest{"Done.", MsgButtons::Ok, MsgIcon::None, qt::FromQt(title)});
+    QFont bold = QApplication::font("QMdiSubWindowTitleBar");
+    bold.setBold(true);
+    QVERIFY2(width > QFontMetrics(bold).horizontalAdvance(title), qPrintable(QString::number(width)));
+  }
+
+  void secondInstanceIsRefused() {
+    const QString name = "benchlog-test-" + QString::number(QCoreApplication::applicationPid());
+    qt::SingleInstance first(name);
+    QVERIFY(first.IsFirst());
+    qt::SingleInstance second(name);
+    QVERIFY(!second.IsFirst());
+  }
+
+  void menuTreeMatchesTheProgramsTree() {
+    Scene s;
+    qt::FrmMain window(s.session, s.fake.platform, s.commands);
     QList<Row> actual;
     for (QAction* top : window.menuBar()->actions()) {
       actual.push_back({top->objectName(), "", top->text(), false});
@@ -82,18 +187,15 @@ class FrmMainTest : public QObject {
       const bool hidden = row.name.startsWith("mnuFileMRU");
       QCOMPARE(action->isVisible(), !hidden);
       // Qt reports a hidden action as disabled; the menu state keeps it enabled.
-      QVERIFY2(session.menu[row.name.toStdString()].enabled, qPrintable(row.name));
+      QVERIFY2(s.session.menu[row.name.toStdString()].enabled, qPrintable(row.name));
       if (!hidden) QVERIFY2(action->isEnabled(), qPrintable(row.name));
     }
   }
 
   void f10RevealsThePositionSearchAndMenusRunCommands() {
-    testing::FakePlatform fake;
-    testing::TestSession session;
-    InitMenuState(session.menu);
-    session.menu["mnuLatLoninTxt"].visible = false;
-    const CommandTable commands = BuildCommandTable();
-    qt::FrmMain window(session, fake.platform, commands);
+    Scene s;
+    s.session.menu["mnuLatLoninTxt"].visible = false;
+    qt::FrmMain window(s.session, s.fake.platform, s.commands);
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -102,8 +204,8 @@ class FrmMainTest : public QObject {
     QVERIFY(window.Action("mnuLatLoninTxt")->isVisible());
 
     window.Action("mnuPlot")->trigger();
-    QCOMPARE(fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
-    fake.ui.colorAnswers.push_back(std::uint32_t{0x00FF00});
+    QCOMPARE(s.fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
+    s.fake.ui.colorAnswers.push_back(std::uint32_t{0x00FF00});
     window.Action("mnuSetBackColor")->trigger();
     QCOMPARE(window.palette().color(QPalette::Window), QColor(0, 255, 0));
   }
@@ -111,12 +213,9 @@ class FrmMainTest : public QObject {
   // The window's placement in twips reaches the screen and comes back at closing; which keys are
   // saved in which state is checked by the main window's model tests.
   void geometryRoundTrip() {
-    testing::FakePlatform fake;
-    testing::TestSession session;
-    InitMenuState(session.menu);
-    const CommandTable commands = BuildCommandTable();
+    Scene s;
     {
-      qt::FrmMain window(session, fake.platform, commands);
+      qt::FrmMain window(s.session, s.fake.platform, s.commands);
       window.ApplyPlacement({kNormal, 1500, 3000, 7500, 9000});
       window.show();
       QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -125,20 +224,20 @@ class FrmMainTest : public QObject {
       QCOMPARE(now.width, 9000L);
       window.close();
     }
-    QCOMPARE(fake.settings.GetSetting("frmMain", "Width", ""), std::string("9000"));
+    QCOMPARE(s.fake.settings.GetSetting("frmMain", "Width", ""), std::string("9000"));
     {
       // Maximised: the normal geometry is kept, the state is saved.
-      qt::FrmMain window(session, fake.platform, commands);
+      qt::FrmMain window(s.session, s.fake.platform, s.commands);
       window.ApplyPlacement({kMaximized, 1500, 3000, 7500, 9000});
       window.show();
       QVERIFY(QTest::qWaitForWindowExposed(&window));
       QVERIFY(window.isMaximized());
       window.close();
     }
-    QCOMPARE(fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("2"));
+    QCOMPARE(s.fake.settings.GetSetting("frmMain", "WindowState", ""), std::string("2"));
     {
       // Saved on a larger screen: brought inside this one.
-      qt::FrmMain window(session, fake.platform, commands);
+      qt::FrmMain window(s.session, s.fake.platform, s.commands);
       window.ApplyPlacement({kNormal, 150000, -3000, 60000, 90000});
       window.show();
       QVERIFY(QTest::qWaitForWindowExposed(&window));

@@ -5,6 +5,7 @@
 #include "export/ui/export_dialogs.hpp"
 #include "session/ui/session_dialogs.hpp"
 #include "web/ui/web_dialogs.hpp"
+#include "web/ui/mark_list_dialogs.hpp"
 
 namespace benchlog::qt {
 
@@ -14,6 +15,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterDatasetDialogs();
   RegisterExportDialogs();
   RegisterWebDialogs(platform);
+  RegisterMarkListDialogs();
 }
 
 }  // namespace benchlog::qt

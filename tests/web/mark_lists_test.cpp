@@ -1,0 +1,132 @@
+// The pieces of the mark-list commands: the position check, the keep rule, the list lines and the
+// dialogs' key filters.
+#include <gtest/gtest.h>
+
+#include "common/number_text.hpp"
+#include "fakes/fakes.hpp"
+#include "fakes/test_rows.hpp"
+#include "session/index_record.hpp"
+#include "web/dlg_lat_lon_rad.hpp"
+#include "web/dlg_type_control.hpp"
+#include "web/frm_listings.hpp"
+#include "web/frm_options.hpp"
+#include "web/keep_rule.hpp"
+#include "web/mark_list_lines.hpp"
+#include "web/position_text.hpp"
+
+using namespace benchlog;
+
+namespace {
+
+std::string Record(const std::string& pid, const std::string& horz, const std::string& vert,
+                   const std::string& designation = "") {
+  IndexRecord record;
+  record.Pid = pid;
+  record.HorzOrder = horz;
+  record.VertOrder = vert;
+  record.Designation = designation;
+  return FormatIndexRecord(record);
+}
+
+// A list line as the service sends it: PID at 7, order codes at 14 and 16, "|N" at 29, name at 52.
+std::string ListLine(const std::string& first, const std::string& pid, const char* orders, const std::string& name) {
+  std::string line = first + pid + " " + orders + " N360342.568|N W0790718.559";
+  line.resize(50, ' ');
+  return line + "|" + name;
+}
+
+}  // namespace
+
+TEST(PositionText, PassesByItsDegreesMinutesAndSeconds) {
+  for (const auto& row : benchlog::testing::ReadRows("web/position_texts.txt", 20, '|'))
+    EXPECT_EQ(ValidPositionText(row[0], Val(row[1])), row[2] == "1") << "\"" << row[0] << "\" limit " << row[1];
+}
+
+TEST(KeepRule, KeepsLocalOrdersTheListLacks) {
+  MarkIndex index;
+  index.Assign({Record("AA1111", "1", "2"), Record("BB2222", " ", "P"), Record("CC3333", " ", " "),
+                Record("EE5555", " ", " ", "DD4444"), Record("DD4444", "A", "1")});
+  for (const auto& row : benchlog::testing::ReadRows("web/keep_rule.txt", 9, '|'))
+    EXPECT_EQ(KeepRuleFetches(index, row[0], row[1], row[2]), row[3] == "1") << row[0] << " " << row[1] << row[2];
+}
+
+TEST(MarkListLines, RecordsOfEachListBecomeChoiceEntries) {
+  const std::string heading = "|    |PID    H V LATITUDE   |F LONGITUDE          |DESIGNATION";
+  const std::string rule = "|----|------|-|-|-----------|---------------------|------";
+  const std::string county = "<PRE>\n" + rule + "\n" + heading + "\n" + ListLine("|....|", "FY3210", "1 .", "HILLSBORO") +
+                             "\n" + ListLine("|....|", "FY0871", ". 1", "K 123") + "\n" + rule + "\n</PRE>\n";
+  const std::vector<std::string> entries{"FY3210 1 .  HILLSBORO", "FY0871 . 1  K 123"};
+  EXPECT_EQ(ChoiceEntries(county, IsCountyRecord), entries);
+
+  const std::string radius = "|dist|PID    H V\n" + rule + "\n" + ListLine("| 0.6|", "FY0895", ". 2", "OCCONEECHEE") +
+                             "\n" + ListLine("|12.5|", "EZ1203", "1 3", "CHAPEL HILL") + "\n|";
+  EXPECT_EQ(ChoiceEntries(radius, IsRadiusRecord),
+            (std::vector<std::string>{"FY0895 . 2  OCCONEECHEE", "EZ1203 1 3  CHAPEL HILL", " "}));
+
+  EXPECT_EQ(ChoiceEntries(county, IsProjectRecord), entries);  // the project list's mark is "|N" at 29
+  EXPECT_FALSE(IsProjectRecord(heading));
+  EXPECT_FALSE(IsCountyRecord(ListLine("| 0.6|", "FY0895", ". 2", "")));
+}
+
+TEST(WebDialogs, KeyFiltersTypeSwallowBeepAndClose) {
+  benchlog::testing::MemorySettings settings;
+  for (const auto& row : benchlog::testing::ReadRows("web/key_filters.txt", 30, '|')) {
+    const int key = std::stoi(row[1]);
+    frmOptions options;
+    frmListings listings;
+    dlgTypeControl types;
+    dlgLatLonRad point;
+    DialogModel* model = nullptr;
+    KeyOutcome outcome;
+    bool shown = false, kept = false;
+    if (row[0] == "frmOptions") {
+      options.Load(settings);
+      options.cboChoices = "NC";
+      options.Visible = true;
+      options.Tag = "before";
+      outcome = options.filterKey(key);
+      model = &options;
+      shown = options.Visible;
+      kept = options.cboChoices == "NC";
+    } else if (row[0] == "frmListings") {
+      listings.AddItem("FY3210");
+      listings.Visible = true;
+      listings.Tag = "before";
+      outcome = listings.filterKey(key);
+      model = &listings;
+      shown = listings.Visible;
+      kept = listings.lstChoices.size() == 1;
+    } else if (row[0] == "dlgTypeControl") {
+      types.Visible = true;
+      types.Tag = "before";
+      outcome = types.filterKey(key);
+      model = &types;
+      shown = types.Visible;
+      kept = types.TypeCode() == "X-0-0";
+    } else {
+      point.Text1[0] = "N39";
+      point.Visible = true;
+      point.Tag = "before";
+      outcome = point.filterKey(key);
+      model = &point;
+      shown = point.Visible;
+      kept = point.Text1[0] == "N39";
+    }
+    const std::vector<std::string> actual{std::to_string(outcome.key), outcome.beep ? "1" : "0",
+                                          outcome.nextControl ? "1" : "0", model->Tag, shown ? "1" : "0",
+                                          kept ? "1" : "0"};
+    EXPECT_EQ(actual, std::vector<std::string>(row.begin() + 2, row.end())) << row[0] << " key " << key;
+  }
+}
+
+TEST(WebDialogs, TypeCodeTakesTheFirstSetOptionOfEachGroup) {
+  dlgTypeControl types;
+  EXPECT_EQ(types.TypeCode(), "X-0-0");
+  types.SetOption1(13);
+  types.SetOption2(4);
+  types.Option2[2] = true;
+  EXPECT_EQ(types.TypeCode(), "COR-B");
+  types.Option1.fill(false);
+  types.cmdOkay_Click();
+  EXPECT_EQ(types.Tag, "-B");
+}
