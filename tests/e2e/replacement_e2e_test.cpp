@@ -18,6 +18,7 @@
 #include "platform/qt/qt_http_transport.hpp"
 #include "session/dataset_paths.hpp"
 #include "session/frm_view.hpp"
+#include "web/frm_options.hpp"
 #include "web/town_update.hpp"
 #include "web/update_by_pid.hpp"
 
@@ -107,7 +108,14 @@ TEST(ReplacementOverHttp, ByPidReplacesTheTypedMarks) {
 
 TEST(ReplacementOverHttp, CorsByStateAddsTheStationsOfTheState) {
   UpdateRun run;
-  UpdateCorsOfState("NC", run.session, run.fake.platform);
+  run.fake.platform.paths.supportPath = SourceSupport();
+  run.session.config.state = "NC NORTH CAROLINA";
+  run.fake.ui.modalActions.push_back([](DialogModel& model) {
+    auto& states = dynamic_cast<frmOptions&>(model);
+    EXPECT_EQ(states.caption + "|" + states.cboChoices, "Select State:|NC NORTH CAROLINA");
+    states.filterKey(13);
+  });
+  mnuCORSbyST(run.session, run.fake.platform);
   EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
   run.ExpectDataset("web/replace/cors_expected.dat");
 }
@@ -143,7 +151,16 @@ TEST(ReplacementOverHttp, AWriteThatFailsHalfWayLeavesTheDatasetAsItWas) {
 // The towns of a state fetched twice: the second time adds none and leaves the file as it was.
 TEST(ReplacementOverHttp, TownsOfAStateFetchedTwice) {
   UpdateRun run;
-  GetTownsOfState("NC", run.fake.platform);
+  run.folder.Write("Country.dat", ReadWholeFile(SourceSupport() + "Country.dat"));
+  for (const int key : {27, 13})  // Esc ends the command at once; Enter takes the preset state
+    run.fake.ui.modalActions.push_back([key](DialogModel& model) {
+      auto& states = dynamic_cast<frmOptions&>(model);
+      states.cboChoices = "NC NORTH CAROLINA";
+      states.filterKey(key);
+    });
+  mnuGetTownOCO(run.session, run.fake.platform);
+  EXPECT_FALSE(FileExists(run.folder.File("Towns.txt")));
+  mnuGetTownOCO(run.session, run.fake.platform);
   const std::string towns = ReadWholeFile(run.folder.File("Towns.txt"));
   const std::vector<std::string> lines = Split(towns, "\r\n");
   ASSERT_EQ(lines.size(), 4u);  // three quads, and nothing behind the last CR LF
