@@ -5,25 +5,35 @@
 namespace benchlog {
 namespace {
 
-// Keeping "PID not found!" in the failure text (county, project) or clearing it at once (radius)
-// ends the same way: the compression clears it, and the radius command, which does not compress,
-// clears it itself. So the rules only tell whether other blanking failures stop the run.
+// The failure text keeps what the last blanking said until the compression clears it; so a later
+// run-time failure of the county, project, By PID and CORS commands shows "PID not found!" when the
+// last PID was not in the dataset. The radius command, which does not compress, clears it at once.
+// In the order of ReplaceCommand: county, radius, project, by PID, CORS by state.
 const ReplacementRules kRules[] = {
-    // county
-    {".dat file is read-only", false, false, DownloadFailure::kLengthTestOnly, "", true, true, true,
-     "Adding new data...", true, "Compressing file...", "Creating new index...", FinalMessage::kCounts, ""},
-    // radius
-    {"", true, false, DownloadFailure::kLengthTestOnly, "", true, true, true, "Adding new data...", false, "",
-     "Creating new index...", FinalMessage::kCounts, "Import from Internet by Lat, Lon, Radius"},
-    // project
-    {"", false, true, DownloadFailure::kStop, "Import from Internet by Project", false, true, true,
-     "Adding new data...", true, "", "", FinalMessage::kProjectCounts, ""},
-    // by PID
-    {"File is read-only", false, false, DownloadFailure::kIgnored, "", false, false, false, "Adding new data...",
-     true, "", "", FinalMessage::kDone, ""},
-    // CORS by state
-    {"File is read-only", false, false, DownloadFailure::kIgnored, "", false, false, false,
-     "Adding CORS stations...", true, "", "", FinalMessage::kDone, ""},
+    {.readOnlyText = ".dat file is read-only", .backupToTrash = false, .noDataIsFailureText = false,
+     .downloadFailure = DownloadFailure::kLengthTestOnly, .downloadFailureTitle = "", .lengthTest = true,
+     .blankFailureStops = true, .notFoundCleared = false, .blankProgress = true, .addingCaption = "Adding new data...",
+     .compress = true, .compressCaption = "Compressing file...", .indexCaption = "Creating new index...",
+     .finalMessage = FinalMessage::kCounts, .errorTitle = ""},
+    {.readOnlyText = "", .backupToTrash = true, .noDataIsFailureText = false,
+     .downloadFailure = DownloadFailure::kLengthTestOnly, .downloadFailureTitle = "", .lengthTest = true,
+     .blankFailureStops = true, .notFoundCleared = true, .blankProgress = true, .addingCaption = "Adding new data...",
+     .compress = false, .compressCaption = "", .indexCaption = "Creating new index...",
+     .finalMessage = FinalMessage::kCounts, .errorTitle = "Import from Internet by Lat, Lon, Radius"},
+    {.readOnlyText = "", .backupToTrash = false, .noDataIsFailureText = true, .downloadFailure = DownloadFailure::kStop,
+     .downloadFailureTitle = "Import from Internet by Project", .lengthTest = false, .blankFailureStops = true,
+     .notFoundCleared = false, .blankProgress = true, .addingCaption = "Adding new data...", .compress = true,
+     .compressCaption = "", .indexCaption = "", .finalMessage = FinalMessage::kProjectCounts, .errorTitle = ""},
+    {.readOnlyText = "File is read-only", .backupToTrash = false, .noDataIsFailureText = false,
+     .downloadFailure = DownloadFailure::kIgnored, .downloadFailureTitle = "", .lengthTest = false,
+     .blankFailureStops = false, .notFoundCleared = false, .blankProgress = false,
+     .addingCaption = "Adding new data...", .compress = true, .compressCaption = "", .indexCaption = "",
+     .finalMessage = FinalMessage::kDone, .errorTitle = ""},
+    {.readOnlyText = "File is read-only", .backupToTrash = false, .noDataIsFailureText = false,
+     .downloadFailure = DownloadFailure::kIgnored, .downloadFailureTitle = "", .lengthTest = false,
+     .blankFailureStops = false, .notFoundCleared = false, .blankProgress = false,
+     .addingCaption = "Adding CORS stations...", .compress = true, .compressCaption = "", .indexCaption = "",
+     .finalMessage = FinalMessage::kDone, .errorTitle = ""},
 };
 
 const char* const kRefusedLine = "additional data was in the original description.";

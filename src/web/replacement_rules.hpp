@@ -27,6 +27,7 @@ struct ReplacementRules {
   const char* downloadFailureTitle;
   bool lengthTest;           // an answer under 3,000 characters is "Insufficient data received"
   bool blankFailureStops;    // a blanking failure other than "PID not found!" ends the run
+  bool notFoundCleared;      // "PID not found!" is cleared at once, not left for the next failure to show
   bool blankProgress;        // the bar follows the blanking, with events let through
   const char* addingCaption;
   bool compress;

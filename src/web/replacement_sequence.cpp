@@ -108,7 +108,7 @@ class Replacement {
         platform_.ui.DoEvents();
       }
     }
-    errMsg_.clear();
+    if (rules_.notFoundCleared && errMsg_ == kPidNotFound) errMsg_.clear();
     Step("blankings planned");
     return true;
   }
