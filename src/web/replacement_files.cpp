@@ -79,6 +79,15 @@ void KeepBackup(const std::string& dataset, const std::string& backup) {
   if (error) fs::copy_file(dataset, backup, fs::copy_options::overwrite_existing);
 }
 
+// The files a writer of `path` that was stopped half-way left beside it ("<path>.~...").
+void RemoveWritersLeftovers(const std::string& path) {
+  const fs::path target(path);
+  const std::string prefix = target.filename().string() + ".~";
+  std::error_code error;
+  for (const auto& entry : fs::directory_iterator(target.parent_path().empty() ? "." : target.parent_path(), error))
+    if (entry.path().filename().string().rfind(prefix, 0) == 0) fs::remove(entry.path(), error);
+}
+
 }  // namespace
 
 std::string PlanBlanking(const MarkIndex& markIndex, const std::string& datasetPath, bool datasetWritable,
@@ -131,8 +140,10 @@ void CommitReplacement(const ReplacementPaths& paths, bool backupToTrash, Shell&
 }
 
 void RemoveWorkFiles(const ReplacementPaths& paths) {
-  DeleteFileIfExists(paths.workDataset);
-  DeleteFileIfExists(paths.workIndex);
+  for (const std::string& work : {paths.workDataset, paths.workIndex}) {
+    DeleteFileIfExists(work);
+    RemoveWritersLeftovers(work);
+  }
 }
 
 }  // namespace benchlog

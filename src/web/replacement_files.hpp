@@ -51,7 +51,7 @@ void WriteWorkDataset(const ReplacementPaths& paths, const std::vector<BlankSpan
 void CommitReplacement(const ReplacementPaths& paths, bool backupToTrash, Shell& shell,
                        const std::function<void(const char*)>& step);
 
-// Removes work files a stopped replacement left behind.
+// Removes the work files a stopped replacement left behind, the half-written ones included.
 void RemoveWorkFiles(const ReplacementPaths& paths);
 
 }  // namespace benchlog

@@ -16,6 +16,7 @@ std::string AskForPids(Session& session, Platform& platform) {
   frmView& view = ViewForm(session, platform);
   const WindowPlacement placement = view.placement;
   view.txtViewFile.clear();
+  view.Tag.clear();  // no mark's pictures on offer
   view.Caption = "Enter list of PIDs (1000 Maximum):";
   view.placement.state = kNormal;
   view.placement.height = kPidListHeight;

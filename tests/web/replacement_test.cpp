@@ -182,6 +182,14 @@ TEST(Replacement, KilledBetweenStepsLeavesTheOldDatasetOrTheNew) {
     outcomes.insert(std::string(isNew ? "new" : "old") + (FileExists(copy.dataset.IndexFile) ? "" : " unindexed"));
   }
   EXPECT_EQ(Join({outcomes.begin(), outcomes.end()}, ","), "new,new unindexed,old,old unindexed");
+
+  // A writer stopped half-way leaves its file beside the dataset; the next run removes it.
+  SampleCopy again;
+  const std::string stray = again.folder.Write("sample.dat.replacing.~123.0", "half");
+  again.fake.http.answers.push_back(Sheets());
+  ReplaceDescriptionsOf(ReplaceCommand::kCounty, {"FY3209"}, 0, again.dataset, again.fake.platform);
+  EXPECT_FALSE(FileExists(stray));
+  EXPECT_EQ(ReadWholeFile(again.dataset.DatFile), newDataset);
 }
 
 }  // namespace
