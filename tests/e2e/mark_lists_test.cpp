@@ -12,7 +12,8 @@
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/load_dataset_index.hpp"
-#include "e2e/plain_transport.hpp"
+#include "fakes/plain_http_get.hpp"
+#include "platform/qt/qt_http_transport.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/oco_sim_process.hpp"
 #include "fakes/temp_folder.hpp"
@@ -79,7 +80,7 @@ class MarkListsTest : public ::testing::Test {
   TempFolder folder_;
   FakePlatform fake_{folder_.Path()};
   TestSession session_;
-  PlainTransport http_;
+  qt::QtHttpTransport http_{fake_.settings};
 };
 std::unique_ptr<OcoSimProcess> MarkListsTest::sim_;
 

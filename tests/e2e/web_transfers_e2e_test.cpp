@@ -2,9 +2,6 @@
 // and each count of tries as the service really answers, with the waits and the time-out shortened.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <memory>
-
 #include "common/text.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/oco_sim_process.hpp"
@@ -22,8 +19,6 @@ const char* const kPaths[] = {"/cgi-bin/get_mark_list.prl?1=COUNTY&2=NC&3=135&4=
                               "/cgi-bin/get_mark_list.prl?1=RADIUS&2=N360342&3=W0790718&4=1&5=X-0-0"};
 
 TEST(WebTransfersOverHttp, ClassifyWhatTheServiceAnswers) {
-  int argc = 0;
-  QCoreApplication app(argc, nullptr);
   OcoSimProcess sim(SampleDataset(), {"--user", "surveyor", "--password", "level"});
   for (const auto& c : ReadRows("web/transfers_e2e.txt", 19, '|')) {
     ASSERT_EQ(c.size(), 7u);

@@ -96,7 +96,10 @@ class MarkListDialogsTest : public QObject {
     QCOMPARE(types.Tag, std::string());
 
     dlgLatLonRad point;
-    point.Load(Configuration{.hemi1 = "N", .hemi2 = "W"});
+    Configuration configuration;
+    configuration.hemi1 = "N";
+    configuration.hemi2 = "W";
+    point.Load(configuration);
     qt::DlgLatLonRadWindow pointWindow(point, nullptr);
     Open(pointWindow);
     QCOMPARE(pointWindow.windowTitle(), QString("Import By Location"));
