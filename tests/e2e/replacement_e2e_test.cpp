@@ -3,7 +3,6 @@
 // fresh build makes it; and a failing download or disk that leaves dataset and index as they were.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <filesystem>
 
 #include "common/files.hpp"
@@ -47,8 +46,6 @@ class FaultingTransport final : public HttpTransport {
 };
 
 struct UpdateRun {
-  int argc = 0;
-  QCoreApplication app{argc, nullptr};
   OcoSimProcess sim{TestData("web/replace/service.dat")};
   TempFolder folder;
   FakePlatform fake{folder.Path()};
