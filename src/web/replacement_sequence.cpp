@@ -41,8 +41,7 @@ class Replacement {
       progress_.Hide();
       if (rules_.compress && !Compress()) return ErrorExit(errMsg_);
       if (!FitsTheSizeLimit() || !Index()) return Abandon();
-      CommitReplacement(paths_, rules_.backupToTrash, platform_.shell, options_.betweenSteps);
-      dataset_.markIndex = std::move(newIndex_);
+      Commit();
       progress_.Hide();
       platform_.ui.SetHourglass(false);
       platform_.ui.MsgBox(FinalMessageOf(rules_, pids_.size(), notUpdated));
@@ -162,6 +161,15 @@ class Replacement {
     const bool built = BuildMarkIndex(paths_.workDataset, paths_.workIndex, newIndex_, platform_);
     Step("indexed");
     return built;
+  }
+
+  // From the rename of the dataset on, the new index in memory is the one that describes it, even
+  // when a later step fails.
+  void Commit() {
+    CommitReplacement(paths_, rules_.backupToTrash, platform_.shell, [this](const char* name) {
+      if (std::string_view(name) == "dataset renamed") dataset_.markIndex = std::move(newIndex_);
+      Step(name);
+    });
   }
 
   void Abandon() {
