@@ -12,7 +12,7 @@
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/load_dataset_index.hpp"
-#include "fakes/plain_http_get.hpp"
+#include "e2e/sim_get.hpp"
 #include "platform/qt/qt_http_transport.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/oco_sim_process.hpp"
@@ -41,7 +41,7 @@ class MarkListsTest : public ::testing::Test {
     session_.dataset.DatFile = folder_.Write("sample.dat", ReadWholeFile(SampleDataset()));
     LoadDatasetIndex(session_, fake_.platform);
     fake_.ui.messages.clear();
-    ASSERT_EQ(PlainHttpGet(sim_->BaseUrl() + "/sim/reset").status, 200);
+    ASSERT_EQ(SimGet(sim_->BaseUrl() + "/sim/reset"), "OK\n");
   }
 
   // Gives the local record of `pid` an order code (column 8 horizontal, 10 vertical) that the
@@ -73,7 +73,7 @@ class MarkListsTest : public ::testing::Test {
     EXPECT_TRUE(fake_.ui.modalActions.empty()) << "a dialog was not shown";
     EXPECT_FALSE(fake_.ui.hourglass);
   }
-  static std::string Log() { return PlainHttpGet(sim_->BaseUrl() + "/sim/log").body; }
+  static std::string Log() { return SimGet(sim_->BaseUrl() + "/sim/log"); }
   frmListings& Listings() { return session_.forms.Get<frmListings>(); }
 
   static std::unique_ptr<OcoSimProcess> sim_;

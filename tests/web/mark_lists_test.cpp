@@ -2,8 +2,11 @@
 // dialogs' key filters.
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "common/number_text.hpp"
 #include "fakes/fakes.hpp"
+#include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
 #include "session/index_record.hpp"
 #include "web/dlg_lat_lon_rad.hpp"
@@ -13,6 +16,7 @@
 #include "web/keep_rule.hpp"
 #include "web/mark_list_lines.hpp"
 #include "web/position_text.hpp"
+#include "web/update_by_radius.hpp"
 
 using namespace benchlog;
 
@@ -129,4 +133,56 @@ TEST(WebDialogs, TypeCodeTakesTheFirstSetOptionOfEachGroup) {
   types.Option1.fill(false);
   types.cmdOkay_Click();
   EXPECT_EQ(types.Tag, "-B");
+}
+
+// Whatever the service sends, the radius list is clean or the command ends with its message: an error
+// page, a megabyte of noise (its CRs bring the empty message box), an answer cut in the middle of a
+// line, and 20,000 records.
+TEST(MarkLists, BadAnswersGiveACleanListOrAMessage) {
+  std::mt19937 random(7);
+  std::string noise(1 << 20, '\0');
+  for (char& c : noise) c = static_cast<char>(random() & 0xFF);
+  const std::string two = ListLine("| 0.6|", "FY0895", ". 2", "OCCONEECHEE") + "\n" +
+                          ListLine("|12.5|", "EZ1203", "1 3", "CHAPEL HILL") + "\n";
+  std::string many;
+  for (int i = 0; i < 20000; ++i) many += ListLine("| 0.6|", "AB" + std::to_string(1000 + i % 9000), ". 2", "M") + "\n";
+  struct Case { std::string answer; std::size_t entries; std::vector<std::string> messages; };
+  const Case cases[] = {
+      {"<html><body><h1>500 Internal Server Error</h1></body></html>\n", 0, {}},
+      {noise, std::string::npos, {""}},
+      {two.substr(0, two.size() - 20), 2, {" 2 stations found.\r\nContinue?"}},  // the second line lost its name
+      {many, 20000, {" 20000 stations found.\r\nSelect fewer stations!"}},
+  };
+  for (const auto& c : cases) {
+    benchlog::testing::TempFolder folder;
+    benchlog::testing::FakePlatform fake(folder.Path());
+    benchlog::testing::TestSession session;
+    session.dataset.DatFile = folder.Write("marks.dat", "\r\n");
+    fake.http.answers.push_back(c.answer);
+    fake.ui.modalActions.push_back([](DialogModel& m) {
+      auto& point = dynamic_cast<dlgLatLonRad&>(m);
+      point.Text1 = {"N360342", "W0790718", "1"};
+      point.OKButton_Click();
+    });
+    fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<dlgTypeControl&>(m).cmdOkay_Click(); });
+    std::vector<std::string> entries;
+    fake.ui.modalActions.push_back([&entries](DialogModel& m) {
+      auto& listings = dynamic_cast<frmListings&>(m);
+      entries = listings.lstChoices;
+      listings.selected.assign(entries.size(), true);
+      listings.cmdOkay_Click();
+    });
+    fake.ui.msgAnswers.push_back(MsgResult::No);
+    mnuUpdtLatLonRad(session, fake.platform);
+    if (c.entries != std::string::npos) {
+      EXPECT_EQ(entries.size(), c.entries);
+    }
+    for (const auto& entry : entries) EXPECT_LE(entry.size(), 42u);  // columns 7-17, a blank, 52-81
+    if (c.entries == 2) {
+      EXPECT_EQ(entries[1], "EZ1203 1 3  ");
+    }
+    std::vector<std::string> messages = fake.ui.MessageTexts();
+    if (c.entries == std::string::npos) messages.resize(1);  // the noise's count is whatever it holds
+    EXPECT_EQ(messages, c.messages);
+  }
 }
