@@ -6,12 +6,12 @@
 #include <filesystem>
 
 #include "common/files.hpp"
+#include "e2e/sim_get.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/file_size_limit.hpp"
 #include "fakes/oco_sim_process.hpp"
-#include "fakes/plain_http_get.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_paths.hpp"
 #include "platform/qt/qt_http_transport.hpp"
@@ -32,7 +32,7 @@ class FaultingTransport final : public HttpTransport {
       : inner_(inner), simUrl_(std::move(simUrl)), faultAt_(faultAt) {}
   std::string OpenURL() override {
     if (++requests_ == faultAt_) {
-      EXPECT_EQ(PlainHttpGet(simUrl_ + "/sim/fault?path=/cgi-bin/ds_pids.prl&kind=empty&count=5").status, 200);
+      EXPECT_EQ(SimGet(simUrl_ + "/sim/fault?path=/cgi-bin/ds_pids.prl&kind=empty&count=5"), "OK\n");
     }
     inner_.URL = URL;
     return inner_.OpenURL();
