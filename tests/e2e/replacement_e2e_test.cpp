@@ -56,7 +56,7 @@ struct UpdateRun {
   UpdateRun() {
     fake.settings.SaveSetting("Settings", "ServiceAddress", sim.BaseUrl());
     fake.settings.SaveSetting("Settings", "RetryWait", "0.05");
-    fake.settings.SaveSetting("Settings", "RequestTimeout", "0.5");
+    fake.settings.SaveSetting("Settings", "RequestTimeout", "2");
     fake.platform.http = &transport;
     oldDataset = ReadWholeFile(SampleDataset());
     session.dataset.DatFile = folder.Write("sample.dat", oldDataset);

@@ -33,7 +33,7 @@ TEST(WebTransfersOverHttp, ClassifyWhatTheServiceAnswers) {
     FakePlatform fake;
     fake.settings.SaveSetting("Settings", "ServiceAddress", sim.BaseUrl());
     fake.settings.SaveSetting("Settings", "RetryWait", "0.05");
-    fake.settings.SaveSetting("Settings", "RequestTimeout", "0.5");
+    fake.settings.SaveSetting("Settings", "RequestTimeout", "1");
     qt::QtHttpTransport transport(fake.settings);
     transport.UserName = "surveyor";  // the login of an earlier request of the run
     transport.Password = "level";

@@ -61,6 +61,9 @@ std::string QtHttpTransport::BodyOf(QNetworkReply& reply, bool timedOut) {
   const QNetworkReply::NetworkError error = reply.error();
   if (error != QNetworkReply::NoError && error < QNetworkReply::ProxyConnectionRefusedError) return "";
   const QByteArray bytes = reply.readAll();
+  // Qt does not always see a connection that closes early: a body shorter than announced is no answer.
+  const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
+  if (announced.isValid() && bytes.size() < announced.toLongLong()) return "";
   std::string body(bytes.constData(), static_cast<std::size_t>(bytes.size()));
   const int code = status.toInt();
   if ((code == 401 || code == 403) && body.find("Unauthorized") == std::string::npos)
