@@ -9,6 +9,7 @@
 #include "dataset/dataset_commands.hpp"
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
+#include "kml/kml_export.hpp"
 #include "view/class_filter.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
@@ -60,6 +61,7 @@ void RegisterExportCommands(CommandTable& table) {
   table.Register("mnuExport", mnuExport);
   table.Register("mnuViewHcl", mnuViewHcl);
   table.Register("mnuViewVcl", mnuViewVcl);
+  table.Register("mnuViewGE", mnuViewGE);
 }
 
 void RegisterWebCommands(CommandTable& table) {
