@@ -11,6 +11,7 @@
 #include "export/export_commands.hpp"
 #include "kml/kml_export.hpp"
 #include "view/class_filter.hpp"
+#include "view/reference_positions.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
 #include "web/update_by_county.hpp"
@@ -55,6 +56,7 @@ void RegisterViewCommands(CommandTable& table) {
   for (const auto& [name, code] : classes)
     table.Register(name, [code = code](Session& s, Platform& p) { ViewDescriptionsByClass(s, p, code); });
   table.Register("mnuLocByPid", mnuLocByPid);
+  table.Register("mnuCompPos", mnuCompPos);
 }
 
 void RegisterExportCommands(CommandTable& table) {
