@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes three stations' Description lines (<pid>.dat), the dataset's horizontal marks (nearby.txt)
-and the report each must give (<pid>.report), laid out line by line as the reference-object report
-is specified. Positions of reference marks and the distances between them come from GeographicLib's
+and the report each must give (<pid>.report), laid out line by line as the command writes its report
+of reference objects. Positions of reference marks and the distances between them come from GeographicLib's
 GeodSolve on GRS80 (an outside judge), distances and azimuths of nearby marks from GeodSolve's
 inverse; written to the report's precision (0.001", 1 mm, 0.1", 0.01 m)."""
 import subprocess
