@@ -9,7 +9,9 @@
 #include "dataset/dataset_commands.hpp"
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
+#include "kml/kml_export.hpp"
 #include "view/class_filter.hpp"
+#include "view/reference_positions.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
 #include "web/update_by_county.hpp"
@@ -56,12 +58,14 @@ void RegisterViewCommands(CommandTable& table) {
   for (const auto& [name, code] : classes)
     table.Register(name, [code = code](Session& s, Platform& p) { ViewDescriptionsByClass(s, p, code); });
   table.Register("mnuLocByPid", mnuLocByPid);
+  table.Register("mnuCompPos", mnuCompPos);
 }
 
 void RegisterExportCommands(CommandTable& table) {
   table.Register("mnuExport", mnuExport);
   table.Register("mnuViewHcl", mnuViewHcl);
   table.Register("mnuViewVcl", mnuViewVcl);
+  table.Register("mnuViewGE", mnuViewGE);
 }
 
 void RegisterWebCommands(CommandTable& table) {

@@ -14,6 +14,7 @@
 #include "common/line_input.hpp"
 #include "common/number_text.hpp"
 #include "common/paths.hpp"
+#include "common/plain_number.hpp"
 #include "common/print_line.hpp"
 #include "common/rounding.hpp"
 #include "common/sort_by_column.hpp"
@@ -45,6 +46,7 @@ std::vector<std::string> Items(const std::string& text) {
 const testing::CallTable kCalls = {
     {"Format", {2, [](const Args& a) { return Format(std::stod(a[0]), a[1]); }}},
     {"Date", {1, [](const Args& a) { return (IsDate(a[0]) ? "" : "no date ") + DateTextToYyyymmdd(a[0]); }}},
+    {"PlainNumber", {1, [](const Args& a) { return PlainNumber(std::stod(a[0])); }}},
     {"Val", {1, [](const Args& a) { return Num(Val(a[0])); }}},
     {"IsNumeric", {1, [](const Args& a) { return Bool(IsNumeric(a[0])); }}},
     {"Path", {1, [](const Args& a) {
@@ -97,7 +99,7 @@ const testing::CallTable kCalls = {
      }}},
 };
 
-TEST(Helpers, GiveTheResultsOfTheCaseTable) { testing::CheckCalls("common/cases.txt", 268, kCalls); }
+TEST(Helpers, GiveTheResultsOfTheCaseTable) { testing::CheckCalls("common/cases.txt", 276, kCalls); }
 
 // A pattern with more places than a double has digits writes the digits, then zeros.
 TEST(Format, ThousandsOfPlaces) {
