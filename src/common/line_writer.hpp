@@ -43,6 +43,7 @@ class LineWriter {
 
  private:
   [[noreturn]] void Fail(int osError);
+  void StartWriteBack(std::uint64_t offset, std::size_t length) const;
 
   std::string path_;      // the file to make or extend
   std::string workPath_;  // where the bytes go: the work file, or `path_` itself when appending
