@@ -23,7 +23,7 @@ bool LineReader::Fill() {
   return end_ > 0;
 }
 
-bool LineReader::ReadLine(std::string_view& line) {
+bool LineReader::ReadLineAcrossBlocks(std::string_view& line) {
   carry_.clear();
   bool carrying = false;
   for (;;) {

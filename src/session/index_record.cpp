@@ -1,14 +1,18 @@
 #include "session/index_record.hpp"
 
 #include "common/fit.hpp"
-#include "common/format.hpp"
 #include "common/number_text.hpp"
 #include "common/text.hpp"
 
 namespace benchlog {
 namespace {
 
-std::string NineDigits(std::uint64_t value) { return Format(static_cast<double>(value), "000000000"); }
+// Nine digits with leading zeros (more when the value needs them), as the pattern "000000000" writes it.
+std::string NineDigits(std::uint64_t value) {
+  std::string digits = std::to_string(value);
+  if (digits.size() < 9) digits.insert(0, 9 - digits.size(), '0');
+  return digits;
+}
 
 }  // namespace
 
@@ -21,13 +25,17 @@ std::string FormatIndexRecord(const IndexRecord& r) {
   field(r.VertOrder);
   field(r.Latitude);
   field(r.Longitude);
-  field(FitToWidth(r.Designation, kDesignationColumn.length));
-  field(FitToWidth(r.County, kCountyColumn.length));
+  const auto fitted = [&out](std::string_view value, std::size_t width) {
+    AppendFitToWidth(out, value, width);
+    out.push_back(' ');
+  };
+  fitted(r.Designation, kDesignationColumn.length);
+  fitted(r.County, kCountyColumn.length);
   for (const std::string* flag : {&r.TidalFlag, &r.BaseNetFlag, &r.AirportFlag, &r.CorsFlag, &r.SatelliteFlag,
                                   &r.HeightModFlag, &r.StabilityCode, &r.PhotoFlag, &r.SketchFlag, &r.FirstYear,
                                   &r.LastYear, &r.ConditionCode})
     field(*flag);
-  field(FitToWidth(r.RecoveredBy, kRecoveredByColumn.length));
+  fitted(r.RecoveredBy, kRecoveredByColumn.length);
   field(NineDigits(r.DescriptionOffset));
   out.push_back('|');
   return out;
