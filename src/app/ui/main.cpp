@@ -50,6 +50,8 @@ int main(int argc, char** argv) {
   Platform platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath + "/"}};
   qt::QtHttpTransport transport(settings);
   platform.http = &transport;
+  qt::QtDatabase database;
+  platform.database = &database;
 
   const QString demoFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/demo";
   PrepareDemoDataset(settings, appPath + "/samples", qt::FromQt(demoFolder));
