@@ -119,6 +119,9 @@ void QtDatabase::Create(const std::string& path, const std::string& table, const
   open_ = true;
   table_ = table;
   try {
+    // The tables and the rows in one transaction: one write to the disk at the close.
+    QSqlDatabase db = QSqlDatabase::database(ToQt(connection_), false);
+    if (!db.transaction()) throw EngineFailure(db.lastError());
     for (const char* statement : kSchema) Execute(statement);
     std::string create = "CREATE TABLE " + Quoted(table) + " (fid INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL, " +
                          kGeometryColumn + " POINT";
@@ -137,8 +140,6 @@ void QtDatabase::Create(const std::string& path, const std::string& table, const
             "', 'features', '" + table + "', " + std::to_string(kSrsId) + ")");
     Execute("INSERT INTO gpkg_geometry_columns VALUES ('" + table + "', '" + kGeometryColumn + "', 'POINT', " +
             std::to_string(kSrsId) + ", 0, 0)");
-    QSqlDatabase db = QSqlDatabase::database(ToQt(connection_), false);
-    if (!db.transaction()) throw EngineFailure(db.lastError());
     insert_ = std::make_unique<QSqlQuery>(db);
     if (!insert_->prepare(ToQt(insert + ") VALUES (" + marks + ")"))) throw EngineFailure(insert_->lastError());
   } catch (...) {
