@@ -1,6 +1,7 @@
 #include "platform/qt/qt_database.hpp"
 
 #include <QSqlDatabase>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
@@ -10,6 +11,10 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
+#include <vector>
+
+#include <sqlite3.h>
 
 #include "common/runtime_failure.hpp"
 #include "platform/qt/text_codec.hpp"
@@ -63,6 +68,17 @@ std::string ColumnDeclaration(const DatabaseColumn& column) {
 
 RuntimeFailure EngineFailure(const QSqlError& error) {
   return RuntimeFailure(75, "Path/File access error: " + FromQt(error.text()));
+}
+
+RuntimeFailure EngineFailure(sqlite3* handle) {
+  return RuntimeFailure(75, std::string("Path/File access error: ") + sqlite3_errmsg(handle));
+}
+
+// The text as SQLite keeps it, in UTF-8: plain ASCII as it is, other bytes through the code page.
+std::string_view Utf8(const std::string& text, std::string& scratch) {
+  if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return text;
+  scratch = ToQt(text).toUtf8().toStdString();
+  return scratch;
 }
 
 template <typename T>
@@ -140,8 +156,11 @@ void QtDatabase::Create(const std::string& path, const std::string& table, const
             "', 'features', '" + table + "', " + std::to_string(kSrsId) + ")");
     Execute("INSERT INTO gpkg_geometry_columns VALUES ('" + table + "', '" + kGeometryColumn + "', 'POINT', " +
             std::to_string(kSrsId) + ", 0, 0)");
-    insert_ = std::make_unique<QSqlQuery>(db);
-    if (!insert_->prepare(ToQt(insert + ") VALUES (" + marks + ")"))) throw EngineFailure(insert_->lastError());
+    const QVariant handle = db.driver()->handle();
+    if (!handle.isValid() || std::strcmp(handle.typeName(), "sqlite3*") != 0) throw InvalidProcedureCall();
+    handle_ = *static_cast<sqlite3* const*>(handle.constData());
+    const std::string sql = insert + ") VALUES (" + marks + ")";
+    if (sqlite3_prepare_v2(handle_, sql.c_str(), -1, &insert_, nullptr) != SQLITE_OK) throw EngineFailure(handle_);
   } catch (...) {
     Drop();
     throw;
@@ -151,31 +170,34 @@ void QtDatabase::Create(const std::string& path, const std::string& table, const
 
 void QtDatabase::AddRow(const DatabaseRow& row) {
   if (!open_) throw InvalidProcedureCall();
-  const QVariant nullText(QMetaType::fromType<QString>());
-  std::vector<QVariant> values(static_cast<std::size_t>(columnCount_) + 1, nullText);
+  sqlite3_reset(insert_);
+  sqlite3_clear_bindings(insert_);  // every column null until set
+  std::string blob;
   if (row.point) {
-    const std::string blob = GeoPackagePoint(*row.point, kSrsId);
-    values[0] = QByteArray(blob.data(), static_cast<qsizetype>(blob.size()));
+    blob = GeoPackagePoint(*row.point, kSrsId);
+    sqlite3_bind_blob(insert_, 1, blob.data(), static_cast<int>(blob.size()), SQLITE_STATIC);
     const GeoPoint& p = *row.point;
     if (!anyPoint_) minX_ = maxX_ = p.longitude, minY_ = maxY_ = p.latitude;
     minX_ = std::min(minX_, p.longitude), maxX_ = std::max(maxX_, p.longitude);
     minY_ = std::min(minY_, p.latitude), maxY_ = std::max(maxY_, p.latitude);
     anyPoint_ = true;
-  } else {
-    values[0] = QVariant(QMetaType::fromType<QByteArray>());
   }
-  for (const auto& [name, value] : row.fields) {
+  // Converted texts live until the step; the row's own texts are bound where they are.
+  std::vector<std::string> scratch(row.fields.size());
+  for (std::size_t i = 0; i < row.fields.size(); ++i) {
+    const auto& [name, value] = row.fields[i];
     const auto at = columnIndex_.find(name);
     if (at == columnIndex_.end()) throw RuntimeFailure(3265, "Item not found in this collection: " + name);
-    values[static_cast<std::size_t>(at->second)] = ToQt(value);
+    const std::string_view text = Utf8(value, scratch[i]);
+    sqlite3_bind_text(insert_, at->second + 1, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
   }
-  for (std::size_t i = 0; i < values.size(); ++i) insert_->bindValue(static_cast<int>(i), values[i]);
-  if (!insert_->exec()) throw EngineFailure(insert_->lastError());
+  if (sqlite3_step(insert_) != SQLITE_DONE) throw EngineFailure(handle_);
 }
 
 void QtDatabase::Close() {
   if (!open_) return;
-  insert_.reset();
+  sqlite3_finalize(insert_);
+  insert_ = nullptr;
   try {
     if (anyPoint_) {
       QSqlQuery extent(QSqlDatabase::database(ToQt(connection_), false));
@@ -194,7 +216,9 @@ void QtDatabase::Close() {
 }
 
 void QtDatabase::Drop() noexcept {
-  insert_.reset();
+  sqlite3_finalize(insert_);  // nothing for a null statement
+  insert_ = nullptr;
+  handle_ = nullptr;
   if (QSqlDatabase::contains(ToQt(connection_))) {
     {
       QSqlDatabase db = QSqlDatabase::database(ToQt(connection_), false);
