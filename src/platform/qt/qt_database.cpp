@@ -144,7 +144,6 @@ void QtDatabase::Create(const std::string& path, const std::string& table, const
     std::string insert = "INSERT INTO " + Quoted(table) + " (" + kGeometryColumn;
     std::string marks = "?";
     columnIndex_.clear();
-    columnCount_ = static_cast<int>(columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i) {
       create += ", " + ColumnDeclaration(columns[i]);
       insert += ", " + Quoted(columns[i].name);

@@ -34,7 +34,6 @@ class QtDatabase final : public Database {
   sqlite3* handle_ = nullptr;          // the QtSql connection's SQLite handle
   sqlite3_stmt* insert_ = nullptr;     // the one prepared statement of the rows
   std::unordered_map<std::string, int> columnIndex_;  // name -> bind position
-  int columnCount_ = 0;
   // The extent of the points, written to the contents entry at the close.
   bool anyPoint_ = false;
   double minX_ = 0, minY_ = 0, maxX_ = 0, maxY_ = 0;
