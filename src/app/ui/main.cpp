@@ -15,6 +15,7 @@
 #include "app/ui/all_dialogs.hpp"
 #include "app/ui/frm_main.hpp"
 #include "platform/qt/progress_window.hpp"
+#include "platform/qt/qt_database.hpp"
 #include "platform/qt/qt_http_transport.hpp"
 #include "platform/qt/qt_settings_store.hpp"
 #include "platform/qt/qt_shell.hpp"
