@@ -2,6 +2,7 @@
 // blocks through whole exports of the listing fixture, and the edge cases of one row.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
 
 #include "export/database_row.hpp"
@@ -67,6 +68,18 @@ TEST_F(DatabaseExport, WithEveryBoxEmptyTheExportEndsSilently) {
   EXPECT_TRUE(Messages().empty());
   EXPECT_TRUE(fake.database.path.empty());
   EXPECT_FALSE(fake.progress.Visible());
+}
+
+// A read-only database stops the export before anything is written, as a read-only listing does.
+TEST_F(DatabaseExport, ARefusedFileIsNamed) {
+  Choose("NC    3200", false, false, false, false);
+  Options().chkDB = 1;
+  folder.Write("locked.gpkg", "old");
+  std::filesystem::permissions(Out("locked.gpkg"), std::filesystem::perms::owner_read);
+  RunExport(Out("locked.txt"));
+  EXPECT_EQ(Messages(), std::vector<std::string>{Out("locked.gpkg") + " exists and is read-only!"});
+  EXPECT_TRUE(fake.database.path.empty());
+  EXPECT_EQ(ReadWholeFile(Out("locked.gpkg")), "old");
 }
 
 // A mark without a position keeps its text columns null and has no point; one west of 90 degrees
