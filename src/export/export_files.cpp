@@ -1,6 +1,7 @@
 #include "export/export_files.hpp"
 
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 #include "common/format.hpp"
@@ -9,12 +10,15 @@
 #include "common/text.hpp"
 #include "dataset/picture_folder.hpp"
 #include "export/export_forms.hpp"
+#include "export/database_output.hpp"
 #include "export/export_names.hpp"
 #include "export/export_output.hpp"
 #include "dataset/find_descriptions.hpp"
 #include "export/listing_outputs.hpp"
 #include "export/mark_values.hpp"
+#include "export/microstation_script.hpp"
 #include "export/parsed_marks.hpp"
+#include "export/street_atlas_file.hpp"
 #include "geodesy/zone_line.hpp"
 #include "support_files/zone_table_file.hpp"
 
@@ -43,11 +47,10 @@ ExportSetup SetupOf(const Session& session, const Platform& platform, const frmO
   return setup;
 }
 
-// Opens the ticked outputs in their order: horizontal listing, vertical listing, then the
-// database, the Street Atlas file and the script, which are not written yet (their boxes open
-// nothing and leave any old file alone). False, with `ErrMsg` set, at a read-only file.
-bool OpenOutputs(Session& session, const frmOutputOptions& options, const ExportNames& names,
-                 const ExportSetup& setup, Outputs& outputs, std::string& ErrMsg) {
+// Opens the ticked outputs in their order: horizontal listing, vertical listing, database, Street
+// Atlas file, script. False, with `ErrMsg` set, at a read-only file.
+bool OpenOutputs(Session& session, Platform& platform, const frmOutputOptions& options, const frmCDT& cdt,
+                 const ExportNames& names, const ExportSetup& setup, Outputs& outputs, std::string& ErrMsg) {
   if (options.chkHoriz == 1) {
     if (!PrepareOutputPath(names.hcl, ErrMsg)) return false;
     outputs.push_back(std::make_unique<HorizontalListing>(names.hcl, options.optFeet));
@@ -58,6 +61,19 @@ bool OpenOutputs(Session& session, const frmOutputOptions& options, const Export
     outputs.push_back(std::make_unique<VerticalListing>(names.vcl, options.optFeet, options.optElFeet,
                                                         setup.coordinateFactor, setup.elevationFactor));
     session.menu["mnuViewVcl"].enabled = true;
+  }
+  if (options.chkDB == 1) {
+    if (!PrepareOutputPath(names.gpkg, ErrMsg)) return false;
+    if (!platform.database) throw std::logic_error("ExportFiles: no database engine");
+    outputs.push_back(std::make_unique<DatabaseOutput>(*platform.database, names.gpkg, cdt, setup.ellipsoid));
+  }
+  if (options.chkStreetAtlas == 1) {
+    if (!PrepareOutputPath(names.sa6, ErrMsg)) return false;
+    outputs.push_back(std::make_unique<StreetAtlasFile>(names.sa6, options.chkNRMarks == 1));
+  }
+  if (options.chkMicrostation == 1) {
+    if (!PrepareOutputPath(names.msf, ErrMsg)) return false;
+    outputs.push_back(std::make_unique<MicrostationScript>(names.msf, options.cboScale));
   }
   return true;
 }
@@ -81,14 +97,14 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
   session.outputs.VclFile = names.vcl;
   session.outputs.SA6File = names.sa6;
   session.outputs.ErrFile = names.err;
-  session.outputs.strDBName = names.mdb;
+  session.outputs.strDBName = names.gpkg;
   session.outputs.OutFilePath = FolderOf(OutFileName);
   const ExportSetup setup = SetupOf(session, platform, options, cdt);
 
   Progress& progress = platform.dlgProcessing;
   ShowProgress(progress);
   Outputs outputs;
-  if (!OpenOutputs(session, options, names, setup, outputs, ErrMsg)) {
+  if (!OpenOutputs(session, platform, options, cdt, names, setup, outputs, ErrMsg)) {
     outputs.clear();  // closes what was opened
     progress.Hide();
     return;
@@ -103,6 +119,7 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
 
   const PictureFolder pictures(setup.datasetFolder);
   MarkValues values;
+  const bool plotLabels = options.chkMicrostation == 1;
   LambertZoneConstants lambert;  // built at the first mark, kept for the others
   ParsedMarks marks(strMkData, session.supportFiles);
   for (std::size_t i = 1; i <= count; ++i) {
@@ -116,6 +133,7 @@ void RunExport(Session& session, Platform& platform, TextBlocks& strMkData, cons
     values.horizontal = HasHorizontalControl(record);
     values.vertical = HasVerticalControl(record);
     ComputePlaneValues(setup, lambert, record, values);
+    if (plotLabels) values.PlotLabel = PlotLabel(record, values, options.chkNRMarks == 1, options.chkLandmarks == 1);
     ComputeUtmValues(setup, record, values);
     ComputePictureFlags(pictures, record, values);
     for (auto& output : outputs) output->WriteMark(record, pid, values);

@@ -15,11 +15,14 @@ namespace benchlog {
 // opened (an existing file stays until its new text replaces it whole; a read-only one sets `ErrMsg` to "<path> exists and is
 // read-only!", closes what was opened, hides the dialog and ends the export), the Descriptions are
 // counted for the progress bar, each is parsed (ParsedMarks) and its working values computed and
-// written to every output, the listings are sorted and headed, the dialog is hidden and "Processing
+// written to every output, the outputs are finished (the script's groups and legend, the listings
+// sorted and headed, the database closed), the dialog is hidden and "Processing
 // complete!" is shown in a box titled "Create File(s)". `ErrMsg` is emptied on entry. A file that
 // cannot be written (WriteFailure) ends the export with the failure's text in `ErrMsg`; any other
-// run-time failure (a coordinate text too wide for its column) ends it without a report. Either
-// way the old outputs stay as they were. Other exceptions reach the caller.
+// run-time failure (a coordinate text too wide for its column, a scale of the script that is no
+// number, a database table without columns) ends it without a report. Either way the old text
+// outputs stay as they were, while the database keeps the rows added before the end (its old file
+// is deleted when it is opened). Other exceptions reach the caller.
 void ExportFiles(Session& session, Platform& platform, TextBlocks& strMkData, const std::string& OutFileName,
                  std::string& ErrMsg);
 

@@ -9,7 +9,7 @@ ExportNames ExportNamesOf(const std::string& outFileName) {
   names.stem = WithoutExtension(outFileName);
   names.hcl = names.stem + ".hcl";
   names.vcl = names.stem + ".vcl";
-  names.mdb = names.stem + ".mdb";
+  names.gpkg = names.stem + ".gpkg";
   names.sa6 = names.stem + "_sa6.txt";
   names.msf = names.stem + ".msf";
   names.err = names.stem + ".err";

@@ -10,7 +10,7 @@ struct ExportNames {
   std::string stem;
   std::string hcl;  // horizontal listing
   std::string vcl;  // vertical listing
-  std::string mdb;  // database
+  std::string gpkg;  // database, a GeoPackage
   std::string sa6;  // Street Atlas file, "_sa6.txt"
   std::string msf;  // Microstation script
   std::string err;  // only stored: no error listing is written

@@ -44,6 +44,7 @@ struct MarkValues {
   double UtmNorth = 0, UtmEast = 0, UtmConvergence = 0, UtmScale = 0;
   std::string UtmNorthText, UtmEastText, UtmScaleText, UtmCgfText, UtmConvText;
   std::string PhotoFlag, SketchFlag;  // "Y" or " "
+  std::string PlotLabel;         // the Microstation script's label (microstation_script.hpp); "" when not plotted
   bool horizontal = false;       // the mark is horizontal control (a line in the ".hcl")
   bool vertical = false;         // the mark is vertical control (a line in the ".vcl")
 };

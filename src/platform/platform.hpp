@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/clock.hpp"
+#include "platform/database.hpp"
 #include "platform/http_transport.hpp"
 #include "platform/progress.hpp"
 #include "platform/settings_store.hpp"
@@ -25,6 +26,7 @@ struct Platform {
   Progress& dlgProcessing;
   AppPaths paths;
   HttpTransport* http = nullptr;  // Inet1: the web service's transfer object; set by the program and the web tests
+  Database* database = nullptr;   // the export's database engine; set by the program and the export tests
 };
 
 }  // namespace benchlog

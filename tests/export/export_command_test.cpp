@@ -122,8 +122,8 @@ TEST_F(ExportCommand, WithNoBoxTickedRunsThroughEveryDescriptionAndWritesNothing
   EXPECT_EQ(Describe(fake.progress), "hidden: Processing |Please wait...|19/19");
 }
 
-// The database, Street Atlas and script boxes open nothing yet; the database box brings up
-// frmCDT, whose Cancel ends the command.
+// The database box brings up frmCDT, whose Cancel ends the command; its Okay adds the database,
+// the Street Atlas file and the script to the listings.
 TEST_F(ExportCommand, TheDatabaseBoxAsksForItsColumns) {
   Options().chkDB = 1;
   Options().chkStreetAtlas = 1;
@@ -138,7 +138,9 @@ TEST_F(ExportCommand, TheDatabaseBoxAsksForItsColumns) {
   EXPECT_NE(dynamic_cast<frmCDT*>(fake.ui.modals[3]), nullptr);
   EXPECT_TRUE(Completed());
   EXPECT_EQ(ReadWholeFile(Out("export.hcl")), ListingFixture("nc_meters.hcl"));
-  for (const char* untouched : {"export.mdb", "export_sa6.txt", "export.msf"}) EXPECT_FALSE(FileExists(Out(untouched)));
+  EXPECT_EQ(fake.database.path, Out("export.gpkg"));
+  EXPECT_FALSE(fake.database.open);
+  for (const char* written : {"export_sa6.txt", "export.msf"}) EXPECT_TRUE(FileExists(Out(written)));
 }
 
 TEST_F(ExportCommand, ListsEveryIndexElementForTheChoiceOfMarks) {

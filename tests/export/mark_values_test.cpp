@@ -214,7 +214,7 @@ TEST(ExportHelpers, GiveTheResultsOfTheCaseTable) {
        }}},
       {"ExportNames", {1, [](const Args& a) {
          const ExportNames n = ExportNamesOf(a[0]);
-         return Join({n.stem, n.hcl, n.vcl, n.mdb, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
+         return Join({n.stem, n.hcl, n.vcl, n.gpkg, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
        }}},
   };
   testing::CheckCalls("export/cases.txt", 26, calls);

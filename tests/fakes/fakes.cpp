@@ -1,5 +1,6 @@
 #include "fakes/fakes.hpp"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "app/menu_tree.hpp"
@@ -77,6 +78,29 @@ FakePlatform::FakePlatform(const std::string& appPath)
     : platform{ui, settings, clock, shell, progress, AppPaths{appPath, appPath.empty() ? "" : appPath + "/"}} {
   progress.observer = [this](const Progress& p) { progressHistory.push_back(p); };
   platform.http = &http;
+  platform.database = &database;
+}
+
+void RecordingDatabase::Create(const std::string& newPath, const std::string& newTable,
+                               const std::vector<DatabaseColumn>& newColumns) {
+  if (newColumns.empty()) throw RuntimeFailure(5, "Invalid procedure call");
+  path = newPath, table = newTable, columns = newColumns;
+  rows.clear();
+  open = true;
+}
+
+void RecordingDatabase::AddRow(const DatabaseRow& row) {
+  for (const auto& field : row.fields) {
+    const bool known = std::any_of(columns.begin(), columns.end(), [&](const DatabaseColumn& c) { return c.name == field.first; });
+    if (!known) throw RuntimeFailure(3265, "Item not found in this collection: " + field.first);
+  }
+  rows.push_back(row);
+}
+
+std::optional<std::string> RecordingDatabase::Field(std::size_t index, const std::string& name) const {
+  for (const auto& field : rows.at(index).fields)
+    if (field.first == name) return field.second;
+  return std::nullopt;
 }
 
 std::string ScriptedHttp::OpenURL() {

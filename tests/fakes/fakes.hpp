@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -97,6 +98,21 @@ class ScriptedHttp final : public HttpTransport {
   std::vector<Request> requests;
 };
 
+// The database engine as a record: the table made and every row added, in order. Like the engine
+// it refuses a table without columns and a row naming a field the table lacks (RuntimeFailure).
+class RecordingDatabase final : public Database {
+ public:
+  void Create(const std::string& path, const std::string& table, const std::vector<DatabaseColumn>& columns) override;
+  void AddRow(const DatabaseRow& row) override;
+  void Close() override { open = false; }
+  std::string path, table;
+  std::vector<DatabaseColumn> columns;
+  std::vector<DatabaseRow> rows;
+  bool open = false;
+  // The field called `name` of row `index`, or nothing when the row leaves it null.
+  std::optional<std::string> Field(std::size_t index, const std::string& name) const;
+};
+
 // A Platform wired to the fakes above, with App.Path in `appPath`.
 struct FakePlatform {
   explicit FakePlatform(const std::string& appPath = "");
@@ -106,6 +122,7 @@ struct FakePlatform {
   RecordingShell shell;
   Progress progress;
   ScriptedHttp http;
+  RecordingDatabase database;
   std::vector<Progress> progressHistory;  // a copy at every show, hide and refresh
   Platform platform;
 };

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the expected listings of the export tests, beside this script.
+"""Writes the expected listings, Microstation scripts and Street Atlas files of the export tests,
+beside this script.
 
 This is an account of the expected files worked out independently of the program: the fields of
 each mark are transcribed by hand from fixture.dat and tx.dat into MARKS below, the plane
@@ -66,6 +67,8 @@ MARKS = {
     "XT2002": ("ALAMO PLAZA", "2011", "292532.12345", "0982910.54321", "A", "2", False, "", "", "", "",
                " ", " ", "1978", "", " "),
 }
+# Marks whose marker code is a landmark in support/Monument_Category.dat (57 lookout tower, 43 cupola).
+LANDMARKS = {"FY3209", "EZ4420"}
 PHOTOS = {"DH7190", "EZ1203", "FY0871", "FY0875", "FY0895", "FY3209", "FY3210"}
 SKETCHES = {"DH7190", "FY0875", "FY3188", "FY3210"}
 FIXTURE = ["FY3210", "FY3209", "EZ1203", "FY3301", "DH7190", "DH7198", "DL8724", "DH7203", "DH7204", "FY0871",
@@ -230,6 +233,102 @@ def listings(pids, zone, feet, elevation_feet):
     return close(hcl, heading_h(feet)), close(vcl, heading_v(feet, elevation_feet))
 
 
+ABBREVIATIONS = [
+    ("AIRPORT", "APT", "first"), ("AZIMUTH", "AZ", "first"), ("BEACON", "BCN", "first"),
+    ("BOUNDARY", "BDRY", "first"), ("CATHOLIC", "CATH", "first"), ("CHURCH", "CH", "whole"),
+    ("COURTHOUSE", "CTHSE", "first"), ("CREEK", "CR", "first"), ("CUPOLA", "CUP", "first"),
+    ("EAST ", "E ", "first"), ("EPISCOPAL", "EPIS", "first"), ("EXPERIMENTAL", "EXPTL", "first"),
+    ("FLAGPOLE", "FP", "first"), ("FRONT RANGE", "FRGE", ""), ("ISLAND", "IS", "first"),
+    ("LARGE", "L", "first"), ("LIGHT", "LT ", "first"), ("LIGHTHOUSE", "LH ", "first"),
+    ("LOOKOUT TOWER", "LOT", "first"), ("LOOKOUT", "LO", "first"), ("MAGNETIC", "MAG", "first"),
+    ("MARK", "", "first"), ("MAST", "MST", "first"), ("MICROWAVE", "MV", "first"),
+    ("MONUMENT", "MON", "first"), ("MUNICIPAL", "MUN", "first"), ("NORTH", "N", "leading"),
+    ("POINT", "PT", "first"), ("PRESBYTERIAN", "PRESB", "first"), ("RADIO", "RAD", "first"),
+    ("REAR RANGE", "RRGE", ""), ("RANGE", "RGE", "first"), ("REFERENCE", "RM", ""), ("RESET", "RST", ""),
+    ("RIVER", "R", "first"), ("SCHOOL", "SCH", "first"), ("STANDPIPE", "SPIPE", "first"),
+    ("SOUTH", "S", "leading"), ("SPIRE", "SP", "first"), ("STACK", "STK", "first"),
+    ("STATION", "STA", "first"), (" TANK", " TK", "first"), ("TOWER", "TWR", "first"),
+    ("WATER TANK", "WT TK", "first"), (" WATER", " WT", "first"), ("WEST", "W", "leading"),
+]
+
+
+def abbreviate(name):
+    name = name.strip()
+    out, i = "", 0  # 0-based here
+    while i < len(name):
+        for word, short, unless in ABBREVIATIONS:
+            if name[i:i + len(word)] != word:
+                continue
+            if (unless == "first" and i == 0) or (unless == "leading" and name.startswith(word)) or \
+                    (unless == "whole" and len(name) == len(word)):
+                continue
+            out += short
+            i += len(word)
+        digits = name[i:i + 4].replace(" ", "")
+        year = float(digits) if digits.isdigit() else 0
+        if 1800 < year < 2000 and i > 3:
+            i += 4
+        out += name[i:i + 1]
+        i += 1
+    return out
+
+
+def script(pids, zone, feet, not_recovered, landmarks, scale):
+    """The Microstation script of the marks, with its head, eight groups and legend."""
+    factor = 1.0
+    if feet:
+        factor = 1000 / 304.79999999999995 if ZONES[zone][6] == "iFT" else 3937 / 1200
+    metres = project(zone, pids)
+    labels = []
+    for pid in pids:
+        m = MARKS[pid]
+        north, east = metres[pid]
+        adjusted = m[4] == "A"
+        n = fmt(factor * north, "#######0.000 " if adjusted else "#######0    ").ljust(12)
+        e = fmt(factor * east, "#######0.000" if adjusted else "#######0     ").ljust(12)
+        dropped = (m[15] == "N" and not not_recovered) or (pid in LANDMARKS and not landmarks)
+        labels.append("" if dropped else m[5].ljust(1) + " " + m[9].ljust(1) + " " + n + e + " " + m[0].strip())
+    size = round(float(scale) / 12.5)  # Python rounds halves to even, as wanted
+    esc = "\x1b"
+    lines = ["SET PARSEALL OFF", f"TX={size}", "CO=0", "ACTIVE TXJ LC"]
+    groups = [(0, "A", "C", 1, 11), (0, "B", "C", 2, 12), (0, "1", "C", 3, 13), (0, "2", "C", 4, 14),
+              (0, "3", "B", 5, 15), (2, "1", "E", 21, 31), (2, "2", "E", 22, 32), (2, "3", "E", 23, 33)]
+    for column, key, symbol, level, name_level in groups:
+        members = [lb for lb in labels if lb[column:column + 1] == key]
+        xy = [f"XY={lb[16:27].strip()},{lb[4:15].strip()},0" for lb in members]
+        lines += ["WT=3", "CO=0", f"LV={level}", "FT=91", "PLACE TEXT", symbol, esc] + xy
+        lines += ["PLACE LINE", "RESET", "FT=1", f"LV={name_level}", "PLACE TEXT"]
+        for lb, point in zip(members, xy):
+            lines += ["  " + abbreviate(lb[28:63]), esc, point, "RESET"]
+        lines += [esc, "PLACE LINE", "RESET"]
+    s, north, east = size, -10 * size, 0
+    lines += ["WT=3", "CO=0", "LV=1", "FT=91", "PLACE TEXT"]
+    lines += ["C", esc, f"XY={east},{north},0", "RESET", "B", esc, f"XY={east},{north - 2 * s},0", "RESET"]
+    lines += ["E", esc, f"XY={east},{north - 4 * s},0", "PLACE LINE", "RESET", "FT=1", "PLACE TEXT"]
+    lines += ["A - 2 ORDER HORIZONTAL MARK", esc, f"XY={east + 2 * s},{north},0", "RESET"]
+    lines += ["3 ORDER HORIZONTAL MARK", esc, f"XY={east + 2 * s},{north - 2 * s},0", "RESET"]
+    lines += ["VERTICAL CONTROL MARK", esc, f"XY={east + 2 * s},{north - 4 * s},0", "PLACE LINE", "RESET"]
+    return "".join(line + "\r\n" for line in lines)
+
+
+def street_atlas(pids, not_recovered, listed):
+    """The Street Atlas lines; `listed`: a listing took the marks, cutting their names to 30."""
+    text = ""
+    for pid in pids:
+        m = MARKS[pid]
+        name = m[0][:30] if listed and (is_horizontal(m) or is_vertical(m)) else m[0]
+        point = "N" + lat_text(m) + ",W" + lon_text(m) + "," + name.strip()
+        lost = m[15] == "N"
+        vertical_colour = {"1": "2", "2": "1", "3": "4", "": "4"}.get(m[9])
+        horizontal = {"A": ("47", "2"), "B": ("47", "2"), "0": ("51", "2"), "1": ("51", "2"), "2": ("51", "1"),
+                      "3": ("51", "4")}.get(m[5])
+        for tail in ([("46", vertical_colour)] if vertical_colour else []) + ([horizontal] if horizontal else []):
+            if lost and not not_recovered:
+                continue
+            text += point + f",{tail[0]},1,{'0' if lost else tail[1]}\r\n"
+    return text
+
+
 def write(name, text):
     with open(os.path.join(HERE, name), "wb") as f:
         f.write(text.encode("latin-1"))
@@ -247,6 +346,11 @@ def main():
         hcl, vcl = listings(pids, zone, feet, elevation_feet)
         write(name + ".hcl", hcl)
         write(name + ".vcl", vcl)
+    # Metres with the defaults (no marks reported not recovered, no landmarks); feet with both kept.
+    write("nc_meters.msf", script(FIXTURE, "NC", False, False, False, "5280"))
+    write("nc_feet_kept.msf", script(FIXTURE, "NC", True, True, True, "1320"))
+    write("nc_meters_sa6.txt", street_atlas(FIXTURE, False, True))
+    write("nc_kept_sa6.txt", street_atlas(FIXTURE, True, True))
 
 
 if __name__ == "__main__":
