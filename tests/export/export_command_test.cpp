@@ -68,17 +68,6 @@ TEST_F(ExportCommand, AsksForTheOutputNameBesideTheLastDataset) {
   EXPECT_FALSE(fake.progress.Visible());
 }
 
-// The names themselves are checked by the ExportNames tests; here the command uses them.
-TEST_F(ExportCommand, NamesTheOutputsFromTheChosenNameWithoutItsExtension) {
-  RunExport(Out("two.dots.txt"));
-  EXPECT_TRUE(FileExists(Out("two.dots.hcl")));
-  EXPECT_EQ(session.outputs.HclFile, Out("two.dots.hcl"));
-  EXPECT_EQ(session.outputs.VclFile, Out("two.dots.vcl"));
-  EXPECT_EQ(session.outputs.SA6File, Out("two.dots_sa6.txt"));
-  EXPECT_EQ(session.outputs.ErrFile, Out("two.dots.err"));
-  EXPECT_FALSE(FileExists(Out("two.dots.err"))) << "no error listing is written";
-}
-
 // Both listings are opened before either is written: a read-only ".hcl" or ".vcl" stops the
 // export with the menu as it was, and so does a listing that cannot be written whole (a full
 // disk). Both old listings stay as they were, with no work file, and the command names the file
@@ -250,6 +239,11 @@ TEST_P(GoldenListings, MatchTheListingsWorkedOutByHand) {
   EXPECT_EQ(Messages(), std::vector<std::string>{"Processing complete!"});
   EXPECT_EQ(ReadWholeFile(Out("export.hcl")), ListingFixture(c[6] + ".hcl"));
   EXPECT_EQ(ReadWholeFile(Out("export.vcl")), ListingFixture(c[6] + ".vcl"));
+  // The session keeps the names made from the chosen one (the ExportNames cases check the names).
+  const ExportOutputs& o = session.outputs;
+  EXPECT_EQ(Join({o.HclFile, o.VclFile, o.SA6File, o.ErrFile}, "|"),
+            Join({Out("export.hcl"), Out("export.vcl"), Out("export_sa6.txt"), Out("export.err")}, "|"));
+  EXPECT_FALSE(FileExists(Out("export.err"))) << "no error listing is written";
 }
 
 INSTANTIATE_TEST_SUITE_P(OptionSets, GoldenListings, ::testing::ValuesIn(GoldenCases()),
