@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <tuple>
 
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
@@ -27,6 +28,7 @@ namespace {
 
 using testing::FakePlatform;
 using testing::TempFolder;
+using namespace std::string_literals;
 
 std::string Fixture(const std::string& name) { return ReadWholeFile(testing::TestData("dataset/" + name)); }
 
@@ -75,7 +77,7 @@ TEST_F(DatasetCommandsTest, ReindexRebuildsBehindTheProgressDialog) {
   session.dataset.DatFile = folder.Write("three.dat", landmarks + landmarks + landmarks);  // 10,539 bytes
   session.dataset.IndexFile = IndexPathFor(folder.Path(), session.dataset.DatFile);
 
-  table.Run("mnuReindex", session, fake.platform);
+  Run("mnuReindex");
 
   EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
   ASSERT_GE(fake.progressHistory.size(), 3u);
@@ -97,7 +99,6 @@ TEST(Reindex, NeedsADataset) {
   }
 }
 
-
 TEST_F(DatasetCommandsTest, CompressDropsBlanksAndReindexes) {
   Open("blanked.dat", Fixture("blanked.dat"));
   Run("mnuCompDatFile");
@@ -109,7 +110,6 @@ TEST_F(DatasetCommandsTest, CompressDropsBlanksAndReindexes) {
   EXPECT_EQ(ReadWholeFile(session.dataset.IndexFile).substr(0, 6), "JK0001");
 }
 
-// New on a fresh name makes no file; on an existing one it asks first.
 TEST_F(DatasetCommandsTest, NewMakesNoFileAndAsksBeforeRemovingOne) {
   Open("layouts.dat", Fixture("layouts.dat"));
   const auto before = session.dataset.markIndex.Elements();
@@ -130,9 +130,9 @@ TEST_F(DatasetCommandsTest, NewMakesNoFileAndAsksBeforeRemovingOne) {
 
   Run("mnuFileNew");  // No: the file, its index and MarkIndex stay
   ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "File exists.  Overwrite?");
-  EXPECT_EQ(fake.ui.messages[0].title, "Create Mkdata File");
-  EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::YesNo);
+  const MessageRequest& asked = fake.ui.messages[0];
+  EXPECT_EQ(std::tuple(asked.text, asked.title, asked.buttons),
+            std::tuple("File exists.  Overwrite?"s, "Create Mkdata File"s, MsgButtons::YesNo));
   EXPECT_TRUE(FileExists(dat) && FileExists(ndx));
   EXPECT_EQ(session.dataset.markIndex.Elements(), before);
 
@@ -160,8 +160,7 @@ TEST_F(DatasetCommandsTest, CombineCopiesTheSelectedFilesInListOrder) {
   EXPECT_EQ(fake.ui.fileDialogs.at(0).title, "Create Combined Dat File");
   EXPECT_EQ(ReadWholeFile(folder.File("out/combined.dat")), "A1\r\nA2\nstill A2\r\nB1\r\nB2\r\n");
   ASSERT_EQ(fake.ui.messages.size(), 1u);
-  EXPECT_EQ(fake.ui.messages[0].text, "Files combined.");
-  EXPECT_EQ(fake.ui.messages[0].title, "Combine .dat Files");
+  EXPECT_EQ(std::pair(fake.ui.messages[0].text, fake.ui.messages[0].title), std::pair("Files combined."s, "Combine .dat Files"s));
   EXPECT_FALSE(FileExists(folder.File("temp.tmp")));
 
   fake.ui.fileAnswers.push_back(folder.File("out/other.dat"));
@@ -182,12 +181,10 @@ TEST_F(DatasetCommandsTest, DeleteBlanksCompressesAndRebuilds) {
   SelectPids({"CD0002", "CD0005"});
   fake.ui.msgAnswers.push_back(MsgResult::Yes);
   Run("mnuDelDesc");
-  ASSERT_EQ(fake.ui.messages.size(), 3u);
-  EXPECT_EQ(fake.ui.messages[1].text, "This will permanently remove these discriptions.\r\nContinue?");
-  EXPECT_EQ(fake.ui.messages[1].title, "Delete Descriptions");
-  EXPECT_EQ(fake.ui.messages[1].defaultButton, 2);
-  EXPECT_EQ(fake.ui.messages[2].text, "2 description(s) deleted!");
-  EXPECT_EQ(fake.ui.messages[2].title, "Delete Descriptions");
+  const std::string asked = "This will permanently remove these discriptions.\r\nContinue?";
+  EXPECT_EQ(fake.ui.MessageTexts(), (std::vector<std::string>{asked, asked, "2 description(s) deleted!"}));
+  EXPECT_EQ(fake.ui.messages.at(1).defaultButton, 2);
+  for (const auto& m : fake.ui.messages) EXPECT_EQ(m.title, "Delete Descriptions");
   // The others survive byte for byte.
   EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), dat.substr(0, 466) + dat.substr(888, 1799 - 889) + dat.substr(2213));
   std::string text;
@@ -254,7 +251,6 @@ TEST_F(DatasetCommandsTest, FileIndexViewShowsTheIndexInSmallType) {
 
 std::string TooLarge(const std::string& path) { return "Path/File access error: could not write " + path + " (File too large)"; }
 
-
 // Writes that fail half-way, as on a full disk, and datasets at the size limit: every command
 // leaves the files it would have replaced byte for byte as they were, leaves no work file behind,
 // and shows why.
@@ -267,18 +263,18 @@ TEST(WriteFailure, LeavesEveryFileAsItWasAndShowsWhy) {
   };
   const Case cases[] = {
       // The compressed text is written whole before the rename, then the index build fails too.
-      {"Compress", nullptr, [](Scene& s) { s.table.Run("mnuCompDatFile", s.session, s.fake.platform); },
+      {"Compress", nullptr, [](Scene& s) { s.Run("mnuCompDatFile"); },
        [](Scene& s) {
          return std::vector<std::string>{"Unable to write to .dat file.\r\n" + TooLarge(s.Dat()), TooLarge(s.Ndx()),
                                          "Unable to write to .dat file."};
        }},
-      {"Reindex", nullptr, [](Scene& s) { s.table.Run("mnuReindex", s.session, s.fake.platform); },
+      {"Reindex", nullptr, [](Scene& s) { s.Run("mnuReindex"); },
        [](Scene& s) { return std::vector<std::string>{TooLarge(s.Ndx()), "Index file created."}; }},
       // The dataset's own folder holds the dataset and the old combined file.
       {"Combine", [](Scene& s) { s.folder.Write("combined.dat", "old combined\r\n"); },
        [](Scene& s) {
          s.CombineAllInto(s.folder.File("combined.dat"));
-         s.table.Run("mnuCombineDat", s.session, s.fake.platform);
+         s.Run("mnuCombineDat");
        },
        [](Scene& s) { return std::vector<std::string>{TooLarge(s.folder.File("combined.dat"))}; }},
       // Save As over an older file, from the viewer of the index.
@@ -287,7 +283,7 @@ TEST(WriteFailure, LeavesEveryFileAsItWasAndShowsWhy) {
          s.fake.ui.fileAnswers.push_back(s.folder.File("saved.ndx"));
          s.fake.ui.msgAnswers.push_back(MsgResult::Yes);
          s.fake.ui.modalActions.push_back([&s](DialogModel& model) { dynamic_cast<frmView&>(model).mnuFileSaveAs(s.fake.ui); });
-         s.table.Run("mnuViewFileIndex", s.session, s.fake.platform);
+         s.Run("mnuViewFileIndex");
        },
        [](Scene& s) { return std::vector<std::string>{"File exists.  Overwrite?", TooLarge(s.folder.File("saved.ndx"))}; }},
       // Appending to the dataset, as the updates do: cut back to its old length.
@@ -334,17 +330,13 @@ std::string Sized(const TempFolder& folder, const std::string& name, std::uint64
 }
 
 TEST(DatasetSizeLimit, OpeningPastTheLimitWarns) {
-  const std::uint64_t lengths[] = {99'999'999, 100'000'000};
-  for (const std::uint64_t length : lengths) {
+  for (const std::uint64_t length : {99'999'999u, 100'000'000u}) {
     Scene s;
     s.session.dataset.DatFile = Sized(s.folder, "big.dat", length);
     s.folder.Write("big.ndx", SentinelRecord(length) + "\r\n");  // a valid index: nothing is rebuilt
     LoadDatasetIndex(s.session, s.fake.platform);
-    if (length < 100'000'000) {
-      EXPECT_TRUE(s.fake.ui.messages.empty()) << length;
-      continue;
-    }
-    ASSERT_EQ(s.fake.ui.messages.size(), 1u);
+    ASSERT_EQ(s.fake.ui.messages.size(), length < 100'000'000 ? 0u : 1u) << length;
+    if (length < 100'000'000) continue;
     EXPECT_EQ(s.fake.ui.messages[0].icon, MsgIcon::Exclamation);
     const std::string& text = s.fake.ui.messages[0].text;
     EXPECT_EQ(text.rfind(s.session.dataset.DatFile + " is 100,000,000 bytes long; a dataset must stay below 100,000,000 bytes.", 0), 0u)
@@ -357,21 +349,20 @@ TEST(DatasetSizeLimit, OpeningPastTheLimitWarns) {
 TEST(DatasetSizeLimit, CombineRefusesBeforeWritingAnything) {
   // One file past the limit, or three together: 100,000,000 bytes either way.
   for (const auto& lengths : {std::vector<std::uint64_t>{100'000'000}, {60'000'000, 39'999'999, 1}}) {
+    SCOPED_TRACE(lengths.size());
     Scene s;
     for (std::size_t i = 0; i < lengths.size(); ++i) Sized(s.folder, "in/" + std::to_string(i) + ".dat", lengths[i]);
     s.session.dataset.DatFilePath = s.folder.File("in/");
     const std::string target = s.folder.Write("combined.dat", "old combined\r\n");
     s.CombineAllInto(target);
     s.Run("mnuCombineDat");
-    EXPECT_EQ(ReadWholeFile(target), "old combined\r\n") << lengths.size();
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(s.folder.Path()), std::filesystem::directory_iterator()), 2)
-        << lengths.size();  // "in" and the old combined file: no work file
-    ASSERT_EQ(s.fake.ui.messages.size(), 1u) << lengths.size();
-    EXPECT_EQ(s.fake.ui.messages[0].text, std::string("The dataset would be 100,000,000") +
-                                            " bytes long; a dataset must stay below 100,000,000 bytes. Nothing was "
-                                            "written.\r\n\r\nCombine fewer files, or split the data into datasets by county.")
-        << lengths.size();
-    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files") << lengths.size();
+    EXPECT_EQ(ReadWholeFile(target), "old combined\r\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(s.folder.Path()), {}), 2);  // "in" and the target
+    ASSERT_EQ(s.fake.ui.messages.size(), 1u);
+    EXPECT_EQ(s.fake.ui.messages[0].text, "The dataset would be 100,000,000 bytes long; a dataset must stay below 100,000,000 "
+                                          "bytes. Nothing was written.\r\n\r\nCombine fewer files, or split the data into "
+                                          "datasets by county.");
+    EXPECT_EQ(s.fake.ui.messages[0].title, "Combine .dat Files");
   }
 }
 

@@ -103,7 +103,8 @@ TEST(GoldenIndex, MatchesTheHandMadeIndex) {
   }
 }
 
-struct IndexBuild : ::testing::Test {
+// A scratch folder with the platform and an index array.
+struct InFolder : ::testing::Test {
   TempFolder folder;
   FakePlatform fake{folder.Path()};
   MarkIndex index;
@@ -112,7 +113,11 @@ struct IndexBuild : ::testing::Test {
     BuildMarkIndex(folder.Write("x.dat", text), folder.File("x.ndx"), index, fake.platform);
     return ReadWholeFile(folder.File("x.ndx"));
   }
+  long Files() const { return std::distance(std::filesystem::directory_iterator(folder.Path()), {}); }
 };
+using IndexBuild = InFolder;
+using Lookup = InFolder;
+using Compressing = InFolder;
 
 TEST_F(IndexBuild, OffsetsOfTheCaseTable) {
   for (const auto& c : testing::ReadRows("dataset/index_build_cases.txt", 3, '|')) {
@@ -235,7 +240,7 @@ TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
   }
 }
 
-std::string Record(const char* pid, const char* longitude, const char* designation, std::uint64_t offset) {
+std::string Record(const char* pid, std::uint64_t offset, const char* longitude = "104 59 31.54321", const char* designation = "") {
   IndexRecord r;
   r.Pid = pid;
   r.HorzOrder = "1";
@@ -250,8 +255,8 @@ std::string Record(const char* pid, const char* longitude, const char* designati
 // The index of tests/data/dataset/quirk_lookup_cases.txt.
 MarkIndex QuirkIndex() {
   MarkIndex index;
-  index.Assign({Record("XX0001", "104 59 31.54321", "REF XX0002 OLD", 1),
-                Record("XX0002", "105 05 52.76543", "KIPLING", 500), SentinelRecord(900), ""});
+  index.Assign({Record("XX0001", 1, "104 59 31.54321", "REF XX0002 OLD"),
+                Record("XX0002", 500, "105 05 52.76543", "KIPLING"), SentinelRecord(900), ""});
   return index;
 }
 
@@ -273,10 +278,7 @@ TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
 
 // The look-up answers exactly as a search of the joined records would, for every six characters
 // that stand anywhere in them, and follows changes of the index.
-TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
-  testing::TempFolder folder;
-  testing::FakePlatform fake(folder.Path());
-  MarkIndex index;
+TEST_F(Lookup, FindAgreesWithASearchOfTheJoinedText) {
   BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), index, fake.platform);
   const std::string joined = index.Joined();
   for (std::size_t i = 0; i + 6 <= joined.size(); i += 3) {
@@ -284,22 +286,20 @@ TEST(MarkLookup, FindAgreesWithASearchOfTheJoinedText) {
     ASSERT_EQ(index.Find(probe), InStr(joined, probe)) << '"' << probe << '"';
   }
   EXPECT_EQ(index.Find("AB1236"), InStr(joined, "AB1236"));
-  index.Set(0, Record("AB1236", "104 59 31.54321", "MOVED", 1));
+  index.Set(0, Record("AB1236", 1));
   EXPECT_EQ(index.Find("AB1236"), 1u);
   EXPECT_EQ(index.Find("AB1234"), 0u);
 }
 
 // Both layouts of the array give the same spans where the records have their full width, since
 // an empty element only adds one blank.
-TEST(MarkLookup, SpansInBothLayouts) {
-  testing::TempFolder folder;
-  testing::FakePlatform fake(folder.Path());
-  MarkIndex built, loaded;
-  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), built, fake.platform);
+TEST_F(Lookup, SpansInBothLayouts) {
+  MarkIndex loaded;
+  BuildMarkIndex(CopyFixture(folder, "layouts.dat"), folder.File("l.ndx"), index, fake.platform);
   LoadIndexFile(folder.File("l.ndx"), loaded);
   for (const auto& c : testing::ReadRows("dataset/lookup_cases.txt", 5, '|')) {
-    EXPECT_EQ(LocateMark(built, c[0]).start, std::stoll(c[1])) << c[0];
-    EXPECT_EQ(LocateMark(built, c[0]).next, std::stoll(c[2])) << c[0];
+    EXPECT_EQ(LocateMark(index, c[0]).start, std::stoll(c[1])) << c[0];
+    EXPECT_EQ(LocateMark(index, c[0]).next, std::stoll(c[2])) << c[0];
     EXPECT_EQ(LocateMark(loaded, c[0]).start, std::stoll(c[3])) << c[0];
     EXPECT_EQ(LocateMark(loaded, c[0]).next, std::stoll(c[4])) << c[0];
   }
@@ -341,36 +341,25 @@ TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
   }
 }
 
-// A record of only a PID and an offset.
-std::string Rec(const char* pid, std::uint64_t offset) {
-  IndexRecord r;
-  r.Pid = pid;
-  r.DescriptionOffset = offset;
-  return FormatIndexRecord(r);
-}
-
 TEST(BlankDescription, ShortSpansAndAZeroOffset) {
   for (const auto& c : testing::ReadRows("dataset/blank_cases.txt", 4, '|')) {
     TempFolder folder;
     const std::string dat = folder.Write("t.dat", "abcdefghijklmnopqrst");
     MarkIndex index;
-    index.Assign({Rec("PP0001", std::stoull(c[0])), Rec("PP0002", std::stoull(c[1])), SentinelRecord(20), ""});
+    index.Assign({Record("PP0001", std::stoull(c[0])), Record("PP0002", std::stoull(c[1])), SentinelRecord(20), ""});
     EXPECT_EQ(BlankDescription(index, dat, "PP0001"), "");
     EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0] << ".." << c[1];
   }
 }
 
-TEST(CompressDataset, KeepsEveryLineWithTextAndNothingElse) {
+TEST_F(Compressing, KeepsEveryLineWithTextAndNothingElse) {
   for (const auto& c : testing::ReadRows("dataset/compress_cases.txt", 7, '|')) {
-    TempFolder folder;
     const std::string dat = folder.Write("d.dat", c[1]);
-    FakePlatform fake(folder.Path());
     EXPECT_EQ(CompressDataset(dat, fake.platform), "") << c[0];
     EXPECT_EQ(ReadWholeFile(dat), c[2]) << c[0];
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 1)
-        << c[0];  // no work file stays
-    EXPECT_TRUE(fake.ui.messages.empty()) << c[0];
+    EXPECT_EQ(Files(), 1) << c[0];  // no work file stays
   }
+  EXPECT_TRUE(fake.ui.messages.empty());
 }
 
 // 80 lines of 98 characters and CR LF: 8000 bytes.
@@ -405,11 +394,9 @@ TEST(CompressDataset, ShowsProgressOnlyAbove8000Bytes) {
 
 // A missing dataset is reported at the reading stage; a read-only one is left whole, with no
 // work file beside it.
-TEST(CompressDataset, AMissingOrReadOnlyDatasetIsReported) {
-  TempFolder folder;
+TEST_F(Compressing, AMissingOrReadOnlyDatasetIsReported) {
   const std::string dat = folder.Write("d.dat", " keep  \r\n  \r\n");
   std::filesystem::permissions(dat, std::filesystem::perms::owner_read);
-  FakePlatform fake(folder.Path());
   EXPECT_EQ(CompressDataset(folder.File("gone.dat"), fake.platform), "Unable to open .dat file for reading.");
   EXPECT_FALSE(FileExists(folder.File("gone.dat")));
   fake.progress.Show();
@@ -418,7 +405,7 @@ TEST(CompressDataset, AMissingOrReadOnlyDatasetIsReported) {
             (std::vector<std::string>{"Unable to open .dat file for reading.\r\nFile not found",
                                       "Unable to open a file in the product directory for writing.\r\nPath/File access error"}));
   EXPECT_EQ(ReadWholeFile(dat), " keep  \r\n  \r\n");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), std::filesystem::directory_iterator()), 1);
+  EXPECT_EQ(Files(), 1);
   EXPECT_FALSE(fake.progress.Visible());
 }
 

@@ -35,9 +35,10 @@ class ExportCommand : public ExportRunTest {
   }
 };
 
+// The commands run through the program's table here, so they are on the menu.
 TEST_F(ExportCommand, WithoutADatasetSaysSoAndAsksNothing) {
   session.dataset.DatFile.clear();
-  mnuExport(session, fake.platform);
+  BuildCommandTable().Run("mnuExport", session, fake.platform);
   EXPECT_EQ(Messages(), std::vector<std::string>{"No mkdata file open!"});
   EXPECT_TRUE(fake.ui.modals.empty());
 }
@@ -66,17 +67,6 @@ TEST_F(ExportCommand, AsksForTheOutputNameBesideTheLastDataset) {
   // Cancelling the save dialog ends the command without a word.
   EXPECT_TRUE(Messages().empty());
   EXPECT_FALSE(fake.progress.Visible());
-}
-
-// The names themselves are checked by the ExportNames tests; here the command uses them.
-TEST_F(ExportCommand, NamesTheOutputsFromTheChosenNameWithoutItsExtension) {
-  RunExport(Out("two.dots.txt"));
-  EXPECT_TRUE(FileExists(Out("two.dots.hcl")));
-  EXPECT_EQ(session.outputs.HclFile, Out("two.dots.hcl"));
-  EXPECT_EQ(session.outputs.VclFile, Out("two.dots.vcl"));
-  EXPECT_EQ(session.outputs.SA6File, Out("two.dots_sa6.txt"));
-  EXPECT_EQ(session.outputs.ErrFile, Out("two.dots.err"));
-  EXPECT_FALSE(FileExists(Out("two.dots.err"))) << "no error listing is written";
 }
 
 // Both listings are opened before either is written: a read-only ".hcl" or ".vcl" stops the
@@ -198,19 +188,20 @@ TEST_F(ExportCommand, ACoordinateTooWideForItsColumnEndsTheExport) {
 // Each listing command shows its file at font size 8 and goes back to 10; a missing file has
 // its own message.
 TEST_F(ExportCommand, ViewsTheListingsAtTheirPitch) {
+  const CommandTable table = BuildCommandTable();
   // command, listing, caption head, file type, message when missing
   for (const auto& [command, path, captionHead, fileType, missing] :
-       {std::tuple{&mnuViewHcl, &ExportOutputs::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
-        std::tuple{&mnuViewVcl, &ExportOutputs::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
+       {std::tuple{"mnuViewHcl", &ExportOutputs::HclFile, "Hcl File - ", "hcl", "Hcl file not found!"},
+        std::tuple{"mnuViewVcl", &ExportOutputs::VclFile, "Vcl File - ", "vcl", "File not found!"}}) {
     fake.ui.messages.clear();
     session.outputs.*path = Out("missing.lst");
-    command(session, fake.platform);
+    table.Run(command, session, fake.platform);
     EXPECT_EQ(Messages(), std::vector<std::string>{missing});
 
     session.outputs.*path = folder.Write("shown.lst", "LISTING\r\n");
     int fontDuringShow = 0;
     fake.ui.modalActions.push_back([&fontDuringShow](DialogModel& m) { fontDuringShow = dynamic_cast<frmView&>(m).FontSize; });
-    command(session, fake.platform);
+    table.Run(command, session, fake.platform);
     const frmView& view = session.forms.Get<frmView>();
     EXPECT_EQ(fontDuringShow, 8);
     EXPECT_EQ(view.FontSize, 10);
@@ -219,11 +210,6 @@ TEST_F(ExportCommand, ViewsTheListingsAtTheirPitch) {
     EXPECT_EQ(view.Tag, "View listing");
     EXPECT_EQ(view.strFileType, fileType);
   }
-}
-
-TEST(ExportCommands, AreOnTheMenu) {
-  const CommandTable table = BuildCommandTable();
-  for (const char* name : {"mnuExport", "mnuViewHcl", "mnuViewVcl"}) EXPECT_TRUE(table.Has(name)) << name;
 }
 
 // Whole exports compared byte for byte with listings worked out independently
@@ -252,6 +238,11 @@ TEST_P(GoldenListings, MatchTheListingsWorkedOutByHand) {
   EXPECT_EQ(Messages(), std::vector<std::string>{"Processing complete!"});
   EXPECT_EQ(ReadWholeFile(Out("export.hcl")), ListingFixture(c[6] + ".hcl"));
   EXPECT_EQ(ReadWholeFile(Out("export.vcl")), ListingFixture(c[6] + ".vcl"));
+  // The session keeps the names made from the chosen one (the ExportNames cases check the names).
+  const ExportOutputs& o = session.outputs;
+  EXPECT_EQ(Join({o.HclFile, o.VclFile, o.SA6File, o.ErrFile}, "|"),
+            Join({Out("export.hcl"), Out("export.vcl"), Out("export_sa6.txt"), Out("export.err")}, "|"));
+  EXPECT_FALSE(FileExists(Out("export.err"))) << "no error listing is written";
 }
 
 INSTANTIATE_TEST_SUITE_P(OptionSets, GoldenListings, ::testing::ValuesIn(GoldenCases()),

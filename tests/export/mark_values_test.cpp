@@ -15,6 +15,7 @@
 #include "common/format.hpp"
 #include "common/number_text.hpp"
 #include "common/runtime_failure.hpp"
+#include "common/test_support.hpp"
 #include "common/text.hpp"
 #include "export/export_names.hpp"
 #include "export/export_test_support.hpp"
@@ -116,12 +117,7 @@ TEST_F(MarkValuesTest, CoordinateTextPatterns) {
     setup.zoneLine = "";
     setup.coordinateFactor = c[1] == "feet" ? 3937.0 / 1200.0 : std::stod(c[1]);
     if (c[4] == "-") {
-      try {
-        ComputePlaneValues(setup, lambert, record, values);
-        ADD_FAILURE() << c[2] << " " << c[3] << " fit";
-      } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.number, kInvalidProcedureCall);
-      }
+      EXPECT_EQ(FailureOf([&] { ComputePlaneValues(setup, lambert, record, values); }), kInvalidProcedureCall) << c[2];
       continue;
     }
     ComputePlaneValues(setup, lambert, record, values);
@@ -212,12 +208,19 @@ TEST(ExportHelpers, GiveTheResultsOfTheCaseTable) {
          const auto text = FieldText(record, a[0]);
          return text ? std::string(*text) : "no field";
        }}},
+      {"Control", {3, [](const Args& a) {
+         MarkRecord record;
+         record.HorizOrder = a[0];
+         record.HorizType = a[1];
+         record.VertOrder = a[2];
+         return Bool(HasHorizontalControl(record)) + "|" + Bool(HasVerticalControl(record));
+       }}},
       {"ExportNames", {1, [](const Args& a) {
          const ExportNames n = ExportNamesOf(a[0]);
          return Join({n.stem, n.hcl, n.vcl, n.gpkg, n.sa6, n.msf, n.err, n.gwp, n.des}, "|");
        }}},
   };
-  testing::CheckCalls("export/cases.txt", 26, calls);
+  testing::CheckCalls("export/cases.txt", 35, calls);
 }
 
 // Every field is named once, and the widths add up to the record's size, so no field is missing
@@ -238,17 +241,6 @@ TEST(MarkRecord, ClearBlanksEveryField) {
   VisitFields(record, [](std::string_view, auto& field) { field = std::string(7000, 'Q'); });
   ClearMarkRecord(record);
   VisitFields(record, [](std::string_view name, const auto& field) { EXPECT_TRUE(field.IsBlank()) << name; });
-}
-
-TEST(MarkRecord, HorizontalAndVerticalFlags) {
-  for (const auto& c : testing::ReadRows("export/control_flags.txt", 9, '|')) {
-    MarkRecord record;
-    record.HorizOrder = c[0];
-    record.HorizType = c[1];
-    record.VertOrder = c[2];
-    EXPECT_EQ(HasHorizontalControl(record), c[3] == "1") << c[0] << "/" << c[1];
-    EXPECT_EQ(HasVerticalControl(record), c[4] == "1") << c[2];
-  }
 }
 
 // What the golden listings do not show: a vertical line without elevation or plane coordinates,

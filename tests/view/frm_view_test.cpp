@@ -60,7 +60,7 @@ std::string ThreeDescriptions() {
 }
 
 TEST(frmView, ActivationMenusAndClicksGiveTheStatesOfTheCaseTable) {
-  for (const auto& c : testing::ReadRows("view/view_cases.txt", 16, '|')) {
+  for (const auto& c : testing::ReadRows("view/view_cases.txt", 17, '|')) {
     ViewSetup s;
     s.view.txtViewFile = ThreeDescriptions();
     s.view.SelStart = 55;
@@ -101,17 +101,8 @@ TEST(frmView, APictureThatCannotBeLoadedLeavesTheView) {
   EXPECT_EQ(s.State(), before);
 }
 
-TEST(frmView, AClickOnAListingOrAPlainText) {
+TEST(frmView, AClickOnAPlainText) {
   ViewSetup s;
-  s.view.txtViewFile = ThreeDescriptions();
-  s.view.Tag = "View listing";
-  s.view.Caption = "Hcl File";
-  s.view.SelStart = 400;
-  s.view.FollowClick(s.dir);
-  EXPECT_EQ(s.view.Tag, "View listing");
-  EXPECT_EQ(s.view.Caption, "Hcl File");
-
-  s.view.Tag = "";
   s.view.txtViewFile = "hello there";
   s.view.SelStart = 2;
   s.view.FollowClick(s.dir);  // no CR LF: the slice from its third character
@@ -156,18 +147,14 @@ TEST(frmView, SaveAsAsksBeforeReplacingAndReportsWhatFails) {
                                           " (No such file or directory)"}));
 }
 
-TEST(frmView, PrintIsNotThereYet) {
-  ViewSetup s;
-  s.view.mnuPrintDesc(s.fake.ui);
-  EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
-  EXPECT_EQ(s.fake.ui.messages[0].icon, MsgIcon::None);
-}
-
-TEST(frmView, ClosingResetsButKeepsTheText) {
+TEST(frmView, PrintSaysItIsNotThereAndClosingResetsButKeepsTheText) {
   ViewSetup s;
   s.view.txtViewFile = "kept";
   s.ShowMark("PH0001");
   s.view.mnuViewPhoto(s.fake.ui);
+  s.view.mnuPrintDesc(s.fake.ui);
+  EXPECT_EQ(s.fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
+  EXPECT_EQ(s.fake.ui.messages[0].icon, MsgIcon::None);
   s.view.Close();
   EXPECT_EQ(s.view.PhotoFlag, 0);
   EXPECT_TRUE(s.view.txtViewFileVisible);
@@ -238,16 +225,6 @@ TEST(ClassFilter, EachClassTestsItsColumn) {
                                                         : Record(columns);
     EXPECT_EQ(PassesClassTest(record, kClasses.at(cells[0])), cells[2] == "1") << cells[3];
   }
-}
-
-TEST(FrmSelectPoints, ItemOfARecordEndsInItsPid) {
-  const std::string record = Record({{43, "PINE HILL"}, {74, "FREDERICK"}});
-  const std::string item = SelectionItemOfRecord(record);
-  EXPECT_EQ(item, "PINE HILL" + std::string(21, ' ') + " FREDERICK" + std::string(14, ' ') + " AB1234");
-  EXPECT_EQ(FrmSelectPoints::PidOfItem(item), "AB1234");
-  // An empty element gives an item of two blanks and an empty PID.
-  EXPECT_EQ(SelectionItemOfRecord(""), "  ");
-  EXPECT_EQ(FrmSelectPoints::PidOfItem("  "), "");
 }
 
 // layouts.dat: AB1234 (CORS, special order), AB1235 (FBN, second/first), AB1236 (its record 22
@@ -328,7 +305,6 @@ TEST_F(ViewByClassTest, AnEmptyLastPidOrCancelEndsWithoutTheViewer) {
   EXPECT_TRUE(fake.ui.messages.empty());
 }
 
-// No index, or more than 10,000 marks selected, fails on the array bound.
 TEST_F(ViewByClassTest, NoIndexOrMoreThanTenThousandSelectedFail) {
   table.Run("mnuAllHorizontal", session, fake.platform);
   EXPECT_TRUE(fake.ui.modals.empty());
