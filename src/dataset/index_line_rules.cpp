@@ -107,7 +107,7 @@ void ApplyFirstKeyedRule(std::string_view line, IndexRecord& f) {
 
 }  // namespace
 
-void ApplyIndexLineRules(std::string_view line, IndexRecord& f) {
+void ApplyKeyedLineRules(std::string_view line, IndexRecord& f) {
   ApplyClassKeys(line, f);
   const char column10 = ColumnChar(line, 10);
   if (column10 == 'D' && KeyAt(line, 10, "DESIGNATION")) f.Designation = std::string(Columns(line, 25, 35)) + " ";

@@ -8,9 +8,28 @@
 
 namespace benchlog {
 
+// The line rules proper, for a line that may hold a key (below).
+void ApplyKeyedLineRules(std::string_view line, IndexRecord& fields);
+
+// Every key starts with "*" or "_" at column 8 (" " there for "  PID"), or with one of these letters
+// at column 10; most lines of a Description (notes, box scores, recovery text) hold none, and the
+// builder reads millions of lines. A new key's first letter goes here too.
+inline bool MayHoldIndexKey(std::string_view line) {
+  if (line.size() >= 8 && (line[7] == '*' || line[7] == '_')) return true;
+  if (line.size() < 10) return false;
+  switch (line[9]) {
+    case 'C': case 'D': case 'F': case 'H': case 'N': case 'P': case 'S': case 'T': case 'V':
+      return true;
+    default:
+      return false;
+  }
+}
+
 // Applies the line rules to a data line (column 1 blank) in their fixed order; lines that match
 // no key change nothing. All comparisons are exact and case-sensitive.
-void ApplyIndexLineRules(std::string_view line, IndexRecord& fields);
+inline void ApplyIndexLineRules(std::string_view line, IndexRecord& fields) {
+  if (MayHoldIndexKey(line)) ApplyKeyedLineRules(line, fields);
+}
 
 // A history line's effect: the last entry wins. "FIRST OBSERVED" and "MONUMENTED" set the first
 // year; any other entry the last year and the condition code; the table's head line clears them.
