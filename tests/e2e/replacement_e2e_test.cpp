@@ -9,6 +9,7 @@
 #include "e2e/sim_get.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
+#include "dataset/compress_dataset.hpp"
 #include "fakes/fakes.hpp"
 #include "fakes/file_size_limit.hpp"
 #include "fakes/oco_sim_process.hpp"
@@ -115,6 +116,44 @@ TEST(ReplacementOverHttp, CorsByStateAddsTheStationsOfTheState) {
   mnuCORSbyST(run.session, run.fake.platform);
   EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
   run.ExpectDataset("web/replace/cors_expected.dat");
+}
+
+// The county and project updates of the same marks end in the same dataset as By PID (all three
+// compress); only their closing messages differ.
+TEST(ReplacementOverHttp, CountyAndProjectUpdatesGiveTheSameDataset) {
+  const std::pair<ReplaceCommand, const char*> cases[] = {
+      {ReplaceCommand::kCounty, "-/Benchlog/3 Descriptions were updated."},
+      {ReplaceCommand::kProject, "-/Benchlog/Done!"},
+  };
+  for (const auto& [command, message] : cases) {
+    UpdateRun run;
+    ReplaceDescriptionsOf(command, {"FY3209", "EZ1203", "FX2230"}, 0, run.session.dataset, run.fake.platform);
+    EXPECT_EQ(run.Messages(), message);
+    run.ExpectDataset("web/replace/by_pid_expected.dat");
+  }
+}
+
+// The radius update does not compress: the old text stays with the three Descriptions blanked (blanks
+// and line ends) and the new ones behind it, which compressed give By PID's dataset; a copy of the
+// old dataset goes to the trash.
+TEST(ReplacementOverHttp, RadiusKeepsTheBlanksAndTrashesTheOldDataset) {
+  UpdateRun run;
+  ReplaceDescriptionsOf(ReplaceCommand::kRadius, {"FY3209", "EZ1203", "FX2230"}, 0, run.session.dataset,
+                        run.fake.platform);
+  EXPECT_EQ(run.Messages(), "-/Benchlog/3 Descriptions were updated.");
+  const std::string result = ReadWholeFile(run.session.dataset.DatFile);
+  ASSERT_GT(result.size(), run.oldDataset.size());
+  std::size_t blanked = 0;
+  for (std::size_t i = 0; i < run.oldDataset.size(); ++i) {
+    if (result[i] == run.oldDataset[i]) continue;
+    ++blanked;
+    ASSERT_TRUE(result[i] == ' ' || result[i] == '\r' || result[i] == '\n') << i;  // blanks and line ends
+  }
+  EXPECT_GT(blanked, 3 * 1000u);  // three whole Descriptions
+  const std::string compressed = run.folder.Write("compressed.dat", result);
+  CompressDataset(compressed, run.fake.platform);
+  EXPECT_EQ(ReadWholeFile(compressed), ReadWholeFile(TestData("web/replace/by_pid_expected.dat")));
+  EXPECT_EQ(run.fake.shell.trashed, std::vector<std::string>{run.session.dataset.DatFile + ".before-update"});
 }
 
 // A project update stops at a failure of its download; here the second of two batches fails.
