@@ -4,17 +4,22 @@
 
 namespace benchlog {
 
-frmOptions& ChooseState(Session& session, Platform& platform) {
+frmOptions& ShowOptions(Session& session, Platform& platform, const std::vector<std::string>& choices,
+                        const std::string& text, const std::string& caption) {
   auto& options = session.forms.Get<frmOptions>();
   if (!options.Loaded) options.Load(platform.settings);
   options.Clear();
-  for (std::string& state : CountryStateList(platform.paths.supportPath + kCountryFileName))
-    options.AddItem(std::move(state));
-  options.cboChoices = session.config.state;
-  options.caption = "Select State:";
+  for (const std::string& choice : choices) options.AddItem(choice);
+  options.cboChoices = text;
+  options.caption = caption;
   options.Tag.clear();
   platform.ui.ShowModal(options);
   return options;
+}
+
+frmOptions& ChooseState(Session& session, Platform& platform) {
+  return ShowOptions(session, platform, CountryStateList(platform.paths.supportPath + kCountryFileName),
+                     session.config.state, "Select State:");
 }
 
 }  // namespace benchlog

@@ -1,10 +1,10 @@
 #include "web/update_by_project.hpp"
 
 #include "common/text.hpp"
-#include "dataset/line_ends.hpp"
 #include "web/dlg_type_control.hpp"
 #include "web/keep_rule.hpp"
 #include "web/mark_list_lines.hpp"
+#include "web/replacement_sequence.hpp"
 #include "web/service_address.hpp"
 #include "web/station_choice.hpp"
 #include "web/web_transfers.hpp"
@@ -34,7 +34,7 @@ void EndWith(Platform& platform, const std::string& text, MsgIcon icon = MsgIcon
 }  // namespace
 
 void mnuUpdtbyProj(Session& session, Platform& platform) {
-  if (RefusedForLfLineEnds(session.dataset.DatFile, platform.ui)) return;
+  if (RefusedForReplacement(ReplaceCommand::kProject, session.dataset.DatFile, platform.ui)) return;
   const std::string project = UCase(platform.ui.InputBox(std::string("Enter Project ID:") + kCrLf + "Example: L26500",
                                                          "Import From Internet by Project ID", ""));
   if (project.empty()) return;

@@ -2,11 +2,11 @@
 
 #include "common/number_text.hpp"
 #include "common/text.hpp"
-#include "dataset/line_ends.hpp"
 #include "web/dlg_lat_lon_rad.hpp"
 #include "web/dlg_type_control.hpp"
 #include "web/mark_list_lines.hpp"
 #include "web/position_text.hpp"
+#include "web/replacement_sequence.hpp"
 #include "web/service_address.hpp"
 #include "web/station_choice.hpp"
 #include "web/web_transfers.hpp"
@@ -30,7 +30,7 @@ std::string PointRefusal(const dlgLatLonRad& point) {
 }  // namespace
 
 void mnuUpdtLatLonRad(Session& session, Platform& platform) {
-  if (RefusedForLfLineEnds(session.dataset.DatFile, platform.ui)) return;
+  if (RefusedForReplacement(ReplaceCommand::kRadius, session.dataset.DatFile, platform.ui)) return;
   auto& point = session.forms.Get<dlgLatLonRad>();
   if (!point.Loaded) point.Load(session.config);
   platform.ui.ShowModal(point);
