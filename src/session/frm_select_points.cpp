@@ -8,6 +8,7 @@ namespace benchlog {
 void FrmSelectPoints::Clear() {
   lstPoints.clear();
   selected.clear();
+  cmdSelectAllVisible = true;
 }
 
 void FrmSelectPoints::AddItem(std::string item) {

@@ -21,6 +21,7 @@ class FrmSelectPoints : public DialogModel {
   std::string lblPoints = "Select Point:";
   std::vector<std::string> lstPoints;  // the items, in the order of the index
   std::vector<bool> selected;          // one flag per item
+  bool cmdSelectAllVisible = true;    // Clear() shows the button again
   std::uint32_t backColor = 16777215;  // the list takes the main window's colours when active
   std::uint32_t foreColor = 0;
   WindowPlacement placement{kNormal, 0, 0, 7605, 9720};

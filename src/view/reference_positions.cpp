@@ -32,6 +32,7 @@ std::string PickStation(Session& session, Platform& platform) {
   auto& list = session.forms.Get<FrmSelectPoints>();
   list.Clear();
   list.caption = "Select Horizontal Mark:";
+  list.cmdSelectAllVisible = false;
   list.backColor = session.shell.backColor;
   list.foreColor = session.shell.foreColor;
   for (const auto& record : session.dataset.markIndex.Elements())

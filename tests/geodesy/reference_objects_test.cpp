@@ -1,7 +1,8 @@
-// The reference-object report of three box scores (tests/data/geodesy/reference_objects, made by
+// The reference-object report of four box scores (tests/data/geodesy/reference_objects, made by
 // make_reports.py there with positions and distances from GeographicLib's GeodSolve): reference
-// marks, an azimuth mark without a distance, "APPROX." rows, a row without a PID that ends the box,
-// nearby marks of the dataset added, and the high-latitude lines of several hundred metres.
+// marks, an azimuth mark without a distance, "APPROX." rows, rows without a PID that end or split the
+// box, the names "FARM 1" and "JONES RM", nearby marks of the dataset added, and the high-latitude lines
+// of several hundred metres.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -20,7 +21,7 @@ namespace {
 
 std::vector<NearbyMark> NearbyMarks() {
   std::vector<NearbyMark> marks;
-  for (const auto& row : testing::ReadRows("geodesy/reference_objects/nearby.txt", 8, '|'))
+  for (const auto& row : testing::ReadRows("geodesy/reference_objects/nearby.txt", 10, '|'))
     marks.push_back({row[0], row[1], row[2], row[3], row[4]});
   return marks;
 }
@@ -29,7 +30,8 @@ TEST(ReferenceObjects, ReportsMatchTheWorkedOutReports) {
   const double e2 = 0.00669438002290;
   const Ellipsoid grs80{6378137.0, e2, e2 / (1 - e2)};
   const std::vector<NearbyMark> nearby = NearbyMarks();
-  const std::pair<const char*, const char*> stations[] = {{"RO0001", "HILLTOP"}, {"RO0101", "NCCH"}, {"RO0201", "TANANA"}};
+  const std::pair<const char*, const char*> stations[] = {
+      {"RO0001", "HILLTOP"}, {"RO0101", "NCCH"}, {"RO0201", "TANANA"}, {"RO0301", "MILLPOND"}};
   for (const auto& [pid, name] : stations) {
     const std::string folder = testing::TestData("geodesy/reference_objects/") + pid;
     testing::FakePlatform fake;

@@ -34,11 +34,11 @@ FrmSelectPointsWindow::FrmSelectPointsWindow(FrmSelectPoints& model, QWidget* pa
   fixed.setStyleHint(QFont::TypeWriter);
   lstPoints_->setFont(fixed);
 
-  auto* selectAll = Button(this, "cmdSelectAll", "Select All", nullptr);
+  selectAll_ = Button(this, "cmdSelectAll", "Select All", nullptr);
   auto* cancel = Button(this, "cmdCancel", "Cancel", "Cancel viewing or printing.");
   auto* okay = Button(this, "cmdOkay", "Okay", "View or print select points.");
   okay->setDefault(true);
-  connect(selectAll, &QPushButton::clicked, this, [this] {
+  connect(selectAll_, &QPushButton::clicked, this, [this] {
     StoreSelection();
     model_.cmdSelectAll_Click();
     ShowSelection();
@@ -48,7 +48,7 @@ FrmSelectPointsWindow::FrmSelectPointsWindow(FrmSelectPoints& model, QWidget* pa
   connect(lstPoints_, &QListWidget::itemDoubleClicked, this, [this] { Finish(true); });
 
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(selectAll);
+  buttons->addWidget(selectAll_);
   buttons->addStretch();
   buttons->addWidget(okay);
   buttons->addWidget(cancel);
@@ -61,6 +61,7 @@ FrmSelectPointsWindow::FrmSelectPointsWindow(FrmSelectPoints& model, QWidget* pa
 void FrmSelectPointsWindow::LoadFromModel() {
   setWindowTitle(ToQt(model_.caption));
   lblPoints_->setText(ToQt(model_.lblPoints));
+  selectAll_->setVisible(model_.cmdSelectAllVisible);
   lstPoints_->clear();
   for (const auto& item : model_.lstPoints) lstPoints_->addItem(ToQt(item));
   ShowSelection();

@@ -6,6 +6,7 @@
 
 class QLabel;
 class QListWidget;
+class QPushButton;
 
 namespace benchlog::qt {
 
@@ -26,6 +27,7 @@ class FrmSelectPointsWindow final : public ModelDialog {
   FrmSelectPoints& model_;
   QLabel* lblPoints_;
   QListWidget* lstPoints_;
+  QPushButton* selectAll_ = nullptr;
 };
 
 }  // namespace benchlog::qt

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes three stations' Description lines (<pid>.dat), the dataset's horizontal marks (nearby.txt)
+"""Writes four stations' Description lines (<pid>.dat), the dataset's horizontal marks (nearby.txt)
 and the report each must give (<pid>.report), laid out line by line as the command writes its report
 of reference objects. Positions of reference marks and the distances between them come from GeographicLib's
 GeodSolve on GRS80 (an outside judge), distances and azimuths of nearby marks from GeodSolve's
@@ -50,6 +50,14 @@ STATIONS = [
         ("RO0203", "JONES RM 2", "210.500 METERS", "1353000.0"),
         ("RO0204", "JONES RM 3", "812.250 METERS", "2254500.0"),
         ("RO0205", "TANANA AZ", "950.000 METERS", "3500000.0")]),
+    # A row without a PID splits the box: the second box repeats the first one's rows. "FARM 1" holds
+    # "RM" and counts as reference mark 1; "JONES RM" has no number and fills slot 0, which is never read.
+    ("RO0301", "MILLPOND", (40, 30, 15.0), (105, 5, 30.0), [
+        ("RO0302", "MILL FARM 1", "12.500 METERS", "0300000.0"),
+        ("RO0303", "MILLPOND RM 2", "20.000 METERS", "1200000.0"),
+        ("", "SEE SKETCH", "", ""),
+        ("RO0304", "JONES RM", "8.000 METERS", "2100000.0"),
+        ("RO0305", "MILLPOND RM 3", "16.000 METERS", "2400000.0")]),
 ]
 # Marks of the dataset with a horizontal order: pid, name, latitude, longitude west, stability code
 NEARBY = [
@@ -61,6 +69,8 @@ NEARBY = [
     ("RO0101", "NCCH", "35 54 31.27711", "079 03 05.35271", " "),
     ("RO0201", "TANANA", "64 50 00.12345", "147 43 10.54321", " "),
     ("RO0206", "NENANA LIGHT", "64 49 30.00000", "147 41 00.00000", " "),
+    ("RO0301", "MILLPOND", "40 30 15.00000", "105 05 30.00000", " "),
+    ("RO0306", "MILL TANK", "40 31 00.00000", "105 05 00.00000", "L"),
 ]
 
 
@@ -149,7 +159,7 @@ def report(st, name, lat, lon, lines):
                 if p < 0 or pid == last:
                     continue
                 lat2, lon2 = geod([], "%.12f %.12f %.12f %.6f" % (lat, -lon, deg(val(az[0:3]), val(az[3:5]), val(az[5:9])), d))[:2]
-                rm[round(val(rname[p + 2:]))] = (lat2, lon2)
+                rm[round(val(rname[p + 3:]))] = (lat2, lon2)
                 text += " %s %s %s    %s" % (pid, rname, dms(lat2, 3, 3), dms(-lon2, 3, 3)) + CRLF
                 last = pid
             in_table = False
