@@ -1,9 +1,10 @@
-// The replacement of Descriptions end to end: By PID and CORS by state against oco-sim through the
+// The replacement of Descriptions end to end: the five update commands against oco-sim through the
 // program's Qt transfer, on a copy of the sample dataset; the result byte for byte, its index as a
 // fresh build makes it; and a failing download or disk that leaves dataset and index as they were.
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 
 #include "common/files.hpp"
 #include "e2e/sim_get.hpp"
@@ -18,6 +19,12 @@
 #include "platform/qt/qt_http_transport.hpp"
 #include "session/dataset_paths.hpp"
 #include "session/frm_view.hpp"
+#include "app/command_registry.hpp"
+#include "dataset/description_file.hpp"
+#include "dataset/mark_lookup.hpp"
+#include "web/dlg_lat_lon_rad.hpp"
+#include "web/dlg_type_control.hpp"
+#include "web/frm_listings.hpp"
 #include "web/frm_options.hpp"
 #include "web/town_update.hpp"
 #include "web/update_by_pid.hpp"
@@ -77,7 +84,7 @@ struct UpdateRun {
   // The dataset is `expected` byte for byte, and its index file and the index in memory are what a
   // fresh build of it makes.
   void ExpectDataset(const std::string& expected) {
-    EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), ReadWholeFile(TestData(expected)));
+    EXPECT_EQ(ReadWholeFile(session.dataset.DatFile), expected);
     MarkIndex fresh;
     const std::string freshPath = folder.File("fresh.ndx");
     ASSERT_TRUE(BuildMarkIndex(session.dataset.DatFile, freshPath, fresh, fake.platform));
@@ -101,7 +108,7 @@ TEST(ReplacementOverHttp, ByPidReplacesTheTypedMarks) {
   });
   mnuUpdateByPID(run.session, run.fake.platform);
   EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
-  run.ExpectDataset("web/replace/by_pid_expected.dat");
+  run.ExpectDataset(ReadWholeFile(TestData("web/replace/by_pid_expected.dat")));
 }
 
 TEST(ReplacementOverHttp, CorsByStateAddsTheStationsOfTheState) {
@@ -115,45 +122,95 @@ TEST(ReplacementOverHttp, CorsByStateAddsTheStationsOfTheState) {
   });
   mnuCORSbyST(run.session, run.fake.platform);
   EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
-  run.ExpectDataset("web/replace/cors_expected.dat");
+  run.ExpectDataset(ReadWholeFile(TestData("web/replace/cors_expected.dat")));
 }
 
-// The county and project updates of the same marks end in the same dataset as By PID (all three
-// compress); only their closing messages differ.
-TEST(ReplacementOverHttp, CountyAndProjectUpdatesGiveTheSameDataset) {
-  const std::pair<ReplaceCommand, const char*> cases[] = {
-      {ReplaceCommand::kCounty, "-/Benchlog/3 Descriptions were updated."},
-      {ReplaceCommand::kProject, "-/Benchlog/Done!"},
-  };
-  for (const auto& [command, message] : cases) {
-    UpdateRun run;
-    ReplaceDescriptionsOf(command, {"FY3209", "EZ1203", "FX2230"}, 0, run.session.dataset, run.fake.platform);
-    EXPECT_EQ(run.Messages(), message);
-    run.ExpectDataset("web/replace/by_pid_expected.dat");
+// What a replacement must leave: the old dataset with the Descriptions of `pids` blanked (blanks and a
+// line end in their place) and the service's Descriptions of `pids` behind it, compressed unless the
+// command is the radius update. Checked against the hand-built By PID file below.
+std::string ReplacedDataset(UpdateRun& run, const std::vector<std::string>& pids, bool compress) {
+  std::string text = run.oldDataset;
+  for (const auto& pid : pids) {
+    const MarkLocation at = LocateMark(run.session.dataset.markIndex, pid);
+    if (at.position == 0) continue;
+    const auto length = static_cast<std::size_t>(at.next - at.start);
+    text.replace(static_cast<std::size_t>(at.start - 1), length, std::string(length - 2, ' ') + "\r\n");
   }
+  const std::string service = run.folder.Write("service.dat", ReadWholeFile(TestData("web/replace/service.dat")));
+  MarkIndex serviceIndex;
+  EXPECT_TRUE(BuildMarkIndex(service, run.folder.File("service.ndx"), serviceIndex, run.fake.platform));
+  for (const auto& pid : pids) {
+    std::string description;
+    EXPECT_EQ(GetDescription(serviceIndex, service, pid, description), "") << pid;
+    text += description;
+  }
+  const std::string expected = run.folder.Write("expected.dat", text);
+  if (compress) CompressDataset(expected, run.fake.platform);
+  return ReadWholeFile(expected);
 }
 
-// The radius update does not compress: the old text stays with the three Descriptions blanked (blanks
-// and line ends) and the new ones behind it, which compressed give By PID's dataset; a copy of the
-// old dataset goes to the trash.
-TEST(ReplacementOverHttp, RadiusKeepsTheBlanksAndTrashesTheOldDataset) {
+TEST(ReplacementOverHttp, TheExpectedDatasetRuleGivesTheHandBuiltByPidFile) {
   UpdateRun run;
-  ReplaceDescriptionsOf(ReplaceCommand::kRadius, {"FY3209", "EZ1203", "FX2230"}, 0, run.session.dataset,
-                        run.fake.platform);
-  EXPECT_EQ(run.Messages(), "-/Benchlog/3 Descriptions were updated.");
-  const std::string result = ReadWholeFile(run.session.dataset.DatFile);
-  ASSERT_GT(result.size(), run.oldDataset.size());
-  std::size_t blanked = 0;
-  for (std::size_t i = 0; i < run.oldDataset.size(); ++i) {
-    if (result[i] == run.oldDataset[i]) continue;
-    ++blanked;
-    ASSERT_TRUE(result[i] == ' ' || result[i] == '\r' || result[i] == '\n') << i;  // blanks and line ends
+  EXPECT_EQ(ReplacedDataset(run, {"FY3209", "EZ1203", "FX2230"}, true),
+            ReadWholeFile(TestData("web/replace/by_pid_expected.dat")));
+}
+
+// County, radius and project from the menu to the dataset, the dialogs played by a script. The service
+// holds FY3209 (ORANGE), FX2230 (DURHAM), EZ1203 (ORANGE) and the CORS DN7001 (ORANGE); the sample has
+// all but DN7001. Every listed mark is chosen (the project update lists none: it takes them all).
+TEST(ReplacementOverHttp, CountyRadiusAndProjectFromTheMenu) {
+  struct Case {
+    const char* command;
+    std::function<void(UpdateRun&)> script;
+    std::vector<std::string> pids;
+    const char* message;
+  };
+  const auto okay = [](DialogModel& model) {
+    if (auto* listings = dynamic_cast<frmListings*>(&model)) {
+      listings->selected.assign(listings->lstChoices.size(), true);
+      listings->cmdOkay_Click();
+    } else if (auto* types = dynamic_cast<dlgTypeControl*>(&model)) {
+      types->cmdOkay_Click();  // any type, any stability
+    }
+  };
+  const Case cases[] = {
+      {"mnuUpdateByCounty", [](UpdateRun& run) {
+         run.fake.ui.modalActions.push_back([](DialogModel& m) { dynamic_cast<frmOptions&>(m).filterKey(13); });
+         run.fake.ui.modalActions.push_back([](DialogModel& m) {
+           auto& counties = dynamic_cast<frmOptions&>(m);
+           counties.cboChoices = "ORANGE";
+           counties.cmdOkay_Click();
+         });
+       }, {"FY3209", "EZ1203", "DN7001"}, "3 Descriptions were updated."},
+      {"mnuUpdtLatLonRad", [](UpdateRun& run) {
+         run.fake.ui.modalActions.push_back([](DialogModel& m) {
+           auto& point = dynamic_cast<dlgLatLonRad&>(m);
+           point.Text1 = {"N355300", "W0790300", "5"};  // beside EZ1203; the others lie 9 miles and more away
+           point.OKButton_Click();
+         });
+       }, {"EZ1203"}, "1 Descriptions were updated."},
+      {"mnuUpdtbyProj", [](UpdateRun& run) { run.fake.ui.inputAnswers = {"FX0001"}; }, {"FX2230"}, "Done!"},
+  };
+  for (const Case& c : cases) {
+    UpdateRun run;
+    run.fake.platform.paths.supportPath = SourceSupport();
+    run.session.config.state = "NC NORTH CAROLINA";
+    c.script(run);
+    run.fake.ui.modalActions.push_back(okay);  // the type of control
+    if (c.command != std::string("mnuUpdtbyProj")) run.fake.ui.modalActions.push_back(okay);  // the list of marks
+    run.fake.ui.msgAnswers.push_back(MsgResult::Yes);
+    const std::string expected = ReplacedDataset(run, c.pids, c.command != std::string("mnuUpdtLatLonRad"));
+    BuildCommandTable().Run(c.command, run.session, run.fake.platform);
+    EXPECT_TRUE(run.fake.ui.modalActions.empty()) << c.command;
+    EXPECT_EQ(run.fake.ui.messages.back().text, c.message) << c.command;
+    std::string query;
+    for (std::size_t i = 0; i < c.pids.size(); ++i) query += (i ? "&" : "") + std::to_string(i + 1) + "=" + c.pids[i];
+    const std::string log = SimGet(run.sim.BaseUrl() + "/sim/log");
+    EXPECT_NE(log.find("GET /cgi-bin/ds_pids.prl?" + query + " HTTP"), std::string::npos) << log;
+    run.ExpectDataset(expected);
+    const bool radius = c.command == std::string("mnuUpdtLatLonRad");  // its backup, the old dataset, is trashed
+    EXPECT_EQ(run.fake.shell.trashed.size(), radius ? 1u : 0u) << c.command;
   }
-  EXPECT_GT(blanked, 3 * 1000u);  // three whole Descriptions
-  const std::string compressed = run.folder.Write("compressed.dat", result);
-  CompressDataset(compressed, run.fake.platform);
-  EXPECT_EQ(ReadWholeFile(compressed), ReadWholeFile(TestData("web/replace/by_pid_expected.dat")));
-  EXPECT_EQ(run.fake.shell.trashed, std::vector<std::string>{run.session.dataset.DatFile + ".before-update"});
 }
 
 // A project update stops at a failure of its download; here the second of two batches fails.

@@ -26,7 +26,9 @@ std::string Sheet(const std::string& pid) {
 // An index record with the columns the command reads.
 std::string Record(const std::vector<std::string>& mark, const std::string& horzOrder, std::size_t offset) {
   std::string record(145, ' ');
-  const auto put = [&record](std::size_t column, const std::string& text) { record.replace(column - 1, text.size(), text); };
+  const auto put = [&record](std::size_t column, const std::string& text) {
+    record.replace(column - 1, text.size(), text);
+  };
   put(1, mark[0]);
   put(8, horzOrder);
   put(12, mark[2]);
