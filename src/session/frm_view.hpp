@@ -43,6 +43,7 @@ class frmView : public DialogModel {
   int HasPhoto = 0, HasSketch = 0;
   bool mnuViewDescVisible = false, mnuViewPhotoVisible = false, mnuViewSketchVisible = false;
   WindowPlacement placement{kNormal, 0, 0, 8475, 9255};  // twips; the state is applied at every show
+  bool centreOnce = false;  // the next show stands centred on the screen at the placement's size
   bool loaded = false;  // the settings were read (at first use) and not yet saved by an unload
 
   // Where the window's own acts reach the rest of the program: the main window's session (for

@@ -20,6 +20,7 @@ std::string AskForPids(Session& session, Platform& platform) {
   view.Caption = "Enter list of PIDs (1000 Maximum):";
   view.placement.state = kNormal;
   view.placement.height = kPidListHeight;
+  view.centreOnce = true;
   platform.ui.ShowModal(view);
   view.placement = placement;
   return view.txtViewFile;

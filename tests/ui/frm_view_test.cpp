@@ -114,7 +114,7 @@ class FrmViewTest : public QObject {
   }
 
   // A class view maximises the viewer over its saved normal state, every time it shows; a saved
-  // size and position from a larger screen are brought inside this one.
+  // size and position from a larger screen are brought inside this one; the PID list stands centred.
   void opensMaximisedWhenTheCommandSaysAndInsideTheScreen() {
     testing::FakePlatform fake;
     testing::TestSession session;
@@ -143,6 +143,13 @@ class FrmViewTest : public QObject {
     const QRect free = window.screen()->availableGeometry();
     QVERIFY(!window.isMaximized());
     QVERIFY2(free.contains(window.frameGeometry()), "the saved window lies inside the screen");
+
+    again.placement.height = 2000;  // the PID list: centred at its own height, once
+    again.centreOnce = true;
+    window.LoadFromModel();
+    QCOMPARE(window.height(), 2000 / 15);
+    QVERIFY(std::abs(window.frameGeometry().center().y() - free.center().y()) <= 1);
+    QVERIFY(!again.centreOnce);
   }
 
   // The screen shows one line break per CR LF and the code page's characters; positions map back.

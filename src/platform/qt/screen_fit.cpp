@@ -32,4 +32,16 @@ void PlaceOnScreen(QWidget* window, const QRect& wanted) {
   window->move(static_cast<int>(fitted.left), static_cast<int>(fitted.top));
 }
 
+void CentreOnScreen(QWidget* window, const QSize& size) {
+  QScreen* screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen();
+  window->resize(size);
+  if (!screen) return;
+  const QRect free = screen->availableGeometry();
+  // move() places the frame: centre the frame, whose size is only known once the window is shown.
+  QSize frame = window->frameGeometry().size() - window->geometry().size();
+  if (!window->isVisible()) frame = QSize(16, 48);
+  const QSize outer = size + frame;
+  window->move(free.left() + (free.width() - outer.width()) / 2, free.top() + (free.height() - outer.height()) / 2);
+}
+
 }  // namespace benchlog::qt

@@ -13,4 +13,7 @@ QRect PixelsOfTwips(long left, long top, long width, long height);
 // `wanted` is the frame's top-left corner and the window's size, in pixels.
 void PlaceOnScreen(QWidget* window, const QRect& wanted);
 
+// Gives the window `size` (pixels) and centres it on its screen's free area.
+void CentreOnScreen(QWidget* window, const QSize& size);
+
 }  // namespace benchlog::qt

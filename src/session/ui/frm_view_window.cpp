@@ -112,7 +112,11 @@ std::string FrmViewWindow::CheckPicture(const std::string& path) {
 }
 
 void FrmViewWindow::LoadFromModel() {
-  if (!placed_) {
+  if (model_.centreOnce) {  // a one-off layout (the PID list); the next show places the window again
+    CentreOnScreen(this, PixelsOfTwips(0, 0, model_.placement.width, model_.placement.height).size());
+    model_.centreOnce = false;
+    placed_ = false;
+  } else if (!placed_) {
     if (model_.platform && !model_.loaded) model_.Load(model_.platform->settings);
     PlaceOnScreen(this, PixelsOfTwips(model_.placement.left, model_.placement.top, model_.placement.width, model_.placement.height));
     placed_ = true;
