@@ -31,7 +31,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
     return Seconds([&] { CheckFileBytes(source, report, fake.progress, fake.ui); });
   });
 
-  std::printf("file %.1f MB, report %.1f KB, %d event breaks in the last run\n",
+  std::printf("file %.1f MB, report %.1f KB, %d event breaks a run\n",
               static_cast<double>(FileLength(source)) / 1e6, static_cast<double>(FileLength(report)) / 1e3,
               fake.ui.doEventsCalls / 3);
   std::printf("character check: %.2f s (target under 1 s) %s\n", seconds, seconds < 1 ? "met" : "MISSED");
