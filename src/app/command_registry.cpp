@@ -10,7 +10,9 @@
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
 #include "kml/kml_export.hpp"
+#include "view/character_check.hpp"
 #include "view/class_filter.hpp"
+#include "view/frm_edit.hpp"
 #include "view/reference_positions.hpp"
 #include "view/view_by_class.hpp"
 #include "web/service_address_form.hpp"
@@ -77,6 +79,12 @@ void RegisterWebCommands(CommandTable& table) {
   table.Register("mnuGetTownOCO", mnuGetTownOCO);
 }
 
+void RegisterEditorCommands(CommandTable& table) {
+  table.Register("mnuEditSA", mnuEditSA);
+  table.Register("mnuViewSAFile", mnuEditSA);
+  table.Register("mnuFindProbChar", mnuFindProbChar);
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -92,6 +100,7 @@ CommandTable BuildCommandTable() {
   RegisterViewCommands(table);
   RegisterExportCommands(table);
   RegisterWebCommands(table);
+  RegisterEditorCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;

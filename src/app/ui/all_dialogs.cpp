@@ -4,6 +4,7 @@
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "export/ui/export_dialogs.hpp"
 #include "session/ui/session_dialogs.hpp"
+#include "view/ui/editor_dialogs.hpp"
 #include "web/ui/web_dialogs.hpp"
 #include "web/ui/mark_list_dialogs.hpp"
 
@@ -16,6 +17,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterExportDialogs();
   RegisterWebDialogs(platform);
   RegisterMarkListDialogs();
+  RegisterEditorDialogs();
 }
 
 }  // namespace benchlog::qt
