@@ -9,6 +9,7 @@
 #include "dataset/dataset_commands.hpp"
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
+#include "handheld/handheld_commands.hpp"
 #include "kml/kml_export.hpp"
 #include "view/class_filter.hpp"
 #include "view/reference_positions.hpp"
@@ -77,6 +78,13 @@ void RegisterWebCommands(CommandTable& table) {
   table.Register("mnuGetTownOCO", mnuGetTownOCO);
 }
 
+void RegisterHandheldCommands(CommandTable& table) {
+  table.Register("mnuConvDelimtoHH", mnuConvDelimtoHH);
+  table.Register("mnuConvgpxToHH", mnuConvgpxToHH);
+  table.Register("mnuConvertGarminToHH", mnuConvertGarminToHH);
+  table.Register("mnuLatLoninTxt", mnuLatLoninTxt);
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -92,6 +100,7 @@ CommandTable BuildCommandTable() {
   RegisterViewCommands(table);
   RegisterExportCommands(table);
   RegisterWebCommands(table);
+  RegisterHandheldCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;
