@@ -24,10 +24,11 @@ char At(std::string_view text, std::size_t position) {  // 1-based; 0 past the e
 
 }  // namespace
 
-void SplitCombined(std::string_view value, LineAngles& angles) {
+void SplitCombined(std::string_view combined, LineAngles& angles) {
+  const std::string value(combined);  // the angles' own texts may be what `combined` views
   const std::size_t w = InStr(value, "W", 2);
   if (w == 0) {
-    angles.latitude = angles.longitude = std::string(value);
+    angles.latitude = angles.longitude = value;
     return;
   }
   angles.latitude = Left(value, w - 1);
