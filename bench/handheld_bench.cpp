@@ -4,6 +4,7 @@
 // count of records written.
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -53,7 +54,11 @@ double ConvertDelimited(const std::string& path) {
   }};
   fake.ui.msgAnswers = {MsgResult::Yes};  // the output of the run before
   fake.ui.inputAnswers = {"OCOFLD"};
-  return Seconds([&] { mnuConvDelimtoHH(session, fake.platform); });
+  const std::clock_t cpuStart = std::clock();
+  const double seconds = Seconds([&] { mnuConvDelimtoHH(session, fake.platform); });
+  std::printf("  one conversion: %.3f s, of which %.3f s on the processor\n", seconds,
+              static_cast<double>(std::clock() - cpuStart) / CLOCKS_PER_SEC);
+  return seconds;
 }
 
 double SearchText(const std::string& dat, const std::string& hh) {

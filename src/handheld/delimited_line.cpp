@@ -27,13 +27,13 @@ std::optional<std::size_t>* ItemOf(DelimitedColumns& columns, std::string_view p
   return nullptr;
 }
 
-std::string ValueOr(const std::vector<std::string>& fields, const std::optional<std::size_t>& column,
+std::string ValueOr(const std::vector<std::string_view>& fields, const std::optional<std::size_t>& column,
                     std::string fallback) {
-  return column && *column < fields.size() ? fields[*column] : fallback;
+  return column && *column < fields.size() ? std::string(fields[*column]) : fallback;
 }
 
 // The columns that the record cannot do without: an unset one fails as an array look-up would.
-const std::string& Required(const std::vector<std::string>& fields, const std::optional<std::size_t>& column) {
+std::string_view Required(const std::vector<std::string_view>& fields, const std::optional<std::size_t>& column) {
   if (!column || *column >= fields.size()) throw SubscriptOutOfRange();
   return fields[*column];
 }
@@ -58,7 +58,8 @@ DelimitedColumns IdentifyColumns(const std::array<std::string, 10>& slots) {
 
 LineResult ConvertDelimitedLine(std::string_view line, std::string_view delimiter, const DelimitedColumns& columns,
                                 const DelimitedAttributes& attributes, std::string& agency, std::string& record) {
-  const std::vector<std::string> fields = Split(UCase(line), delimiter);
+  const std::string upper = UCase(line);
+  const std::vector<std::string_view> fields = SplitViews(upper, delimiter);
   if (fields.size() - 1 < columns.required) return LineResult::kSkipped;
 
   LineAngles angles;
@@ -68,7 +69,7 @@ LineResult ConvertDelimitedLine(std::string_view line, std::string_view delimite
   angles.lonHemisphere = ValueOr(fields, columns.lonHemisphere, "W");
   if (columns.agency) agency = ValueOr(fields, columns.agency, agency);
   // The date is read into its form and not used in the record.
-  (void)DateTextToYyyymmdd(ValueOr(fields, columns.date, ""));
+  if (columns.date) (void)DateTextToYyyymmdd(ValueOr(fields, columns.date, ""));
 
   if (columns.latitude && columns.latitude == columns.longitude) SplitCombined(angles.latitude, angles);
   TakeHemispheres(angles);
@@ -77,9 +78,9 @@ LineResult ConvertDelimitedLine(std::string_view line, std::string_view delimite
   CutAngles(attributes.order, attributes.technique, angles);
 
   if (fields.size() == 1) return LineResult::kStop;
-  const std::string& pid = Required(fields, columns.pid);
+  const std::string_view pid = Required(fields, columns.pid);
   if (pid.size() != 6) return LineResult::kSkipped;
-  record = FormatHhRecord({pid, Required(fields, columns.designation), angles.latHemisphere + angles.latitude,
+  record = FormatHhRecord({std::string(pid), std::string(Required(fields, columns.designation)), angles.latHemisphere + angles.latitude,
                            angles.lonHemisphere + angles.longitude, HhQuality(attributes.technique), agency});
   return LineResult::kRecord;
 }

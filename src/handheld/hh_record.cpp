@@ -6,8 +6,14 @@
 namespace benchlog {
 
 std::string FormatHhRecord(const HhRecord& record) {
-  return record.pid + "|" + record.designation + "|" + record.latitude + "|" + record.longitude + "|" +
-         record.quality + "|" + record.agency;
+  std::string line;
+  line.reserve(record.pid.size() + record.designation.size() + record.latitude.size() + record.longitude.size() +
+               record.quality.size() + record.agency.size() + 5);
+  for (const std::string* field : {&record.pid, &record.designation, &record.latitude, &record.longitude,
+                                   &record.quality}) {
+    line.append(*field).push_back('|');
+  }
+  return line.append(record.agency);
 }
 
 std::vector<std::string> HhFields(std::string_view line) { return Split(line, "|"); }

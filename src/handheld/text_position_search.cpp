@@ -47,7 +47,7 @@ void SearchTextPositions(const std::string& datasetPath, const std::string& hhPa
   LineWriter report(reportPath);
   MarkState mark;
   std::string previous;
-  std::string text;
+  std::string text, latitude, longitude;
   PrintLine reportLine;
   for (std::string_view line; dataset.ReadLine(line); previous.assign(line)) {
     if (!line.empty() && line[0] == '1') {
@@ -70,9 +70,7 @@ void SearchTextPositions(const std::string& datasetPath, const std::string& hhPa
     }
     if (!ColumnsAre(line, 8, "'")) continue;
     text.assign(previous).append(" ").append(Mid(line, 9));
-    const std::string latitude = FindLatitudeInText(text);
-    const std::string longitude = FindLongitudeInText(text);
-    if (latitude.empty() || longitude.empty() || mark.designation.empty() || mark.condition != "G") continue;
+    if (!FindPositionInText(text, latitude, longitude) || mark.designation.empty() || mark.condition != "G") continue;
     if (SecondsApart(mark.publishedLat, latitude) < kCloseSeconds &&
         SecondsApart(mark.publishedLon, longitude) < kCloseSeconds)
       hh.WriteLine(FormatHhRecord({"", mark.designation, latitude, longitude, "HH2", mark.agency}));

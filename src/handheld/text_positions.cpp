@@ -7,6 +7,8 @@
 namespace benchlog {
 namespace {
 
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 enum Removed { kNothing, kHyphens, kBlanks, kBlanksAndApostrophes };
 
 struct TextPattern {
@@ -52,8 +54,8 @@ std::string Remove(std::string text, Removed removed) {
 }
 
 template <std::size_t N>
-std::string FindInText(std::string_view text, const std::array<TextPattern, N>& patterns, const char* letter) {
-  const std::string image = PatternImage(text);
+std::string FindInImage(std::string_view text, std::string_view image, const std::array<TextPattern, N>& patterns,
+                        const char* letter) {
   for (const TextPattern& pattern : patterns) {
     const std::size_t at = InStr(image, pattern.image);
     if (at == 0) continue;
@@ -71,14 +73,33 @@ std::string PatternImage(std::string_view text) {
   std::string image(text.size(), ' ');
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
-    if (c >= '0' && c <= '9') image[i] = 'D';
+    if (IsDigit(c)) image[i] = 'D';
     else if (c == 'N' || c == 'W' || c == 'L' || c == 'O' || c == ' ' || c == '-' || c == '.') image[i] = c;
   }
   return image;
 }
 
-std::string FindLatitudeInText(std::string_view text) { return FindInText(text, kLatitudePatterns, "N"); }
+std::string FindLatitudeInText(std::string_view text) {
+  return FindInImage(text, PatternImage(text), kLatitudePatterns, "N");
+}
 
-std::string FindLongitudeInText(std::string_view text) { return FindInText(text, kLongitudePatterns, "W"); }
+std::string FindLongitudeInText(std::string_view text) {
+  return FindInImage(text, PatternImage(text), kLongitudePatterns, "W");
+}
+
+bool FindPositionInText(std::string_view text, std::string& latitude, std::string& longitude) {
+  latitude.clear();
+  longitude.clear();
+  // Every pattern ends in seconds with a decimal, "DD.D": most text lines have none, and need no search.
+  bool secondsFound = false;
+  for (std::size_t i = 2; i + 1 < text.size() && !secondsFound; ++i)
+    secondsFound = text[i] == '.' && IsDigit(text[i - 1]) && IsDigit(text[i - 2]) && IsDigit(text[i + 1]);
+  if (!secondsFound) return false;
+  const std::string image = PatternImage(text);
+  latitude = FindInImage(text, image, kLatitudePatterns, "N");
+  if (latitude.empty()) return false;
+  longitude = FindInImage(text, image, kLongitudePatterns, "W");
+  return !longitude.empty();
+}
 
 }  // namespace benchlog

@@ -16,4 +16,8 @@ std::string FindLatitudeInText(std::string_view text);
 // Likewise the longitude, behind "W" ("W0771234.5").
 std::string FindLongitudeInText(std::string_view text);
 
+// Both at once, as the search of a Description's text needs them: true when both are found, and
+// then `latitude` and `longitude` hold them.
+bool FindPositionInText(std::string_view text, std::string& latitude, std::string& longitude);
+
 }  // namespace benchlog
