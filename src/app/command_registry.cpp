@@ -9,6 +9,7 @@
 #include "dataset/dataset_commands.hpp"
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
+#include "handheld/handheld_commands.hpp"
 #include "kml/kml_export.hpp"
 #include "view/character_check.hpp"
 #include "view/class_filter.hpp"
@@ -85,6 +86,13 @@ void RegisterEditorCommands(CommandTable& table) {
   table.Register("mnuFindProbChar", mnuFindProbChar);
 }
 
+void RegisterHandheldCommands(CommandTable& table) {
+  table.Register("mnuConvDelimtoHH", mnuConvDelimtoHH);
+  table.Register("mnuConvgpxToHH", mnuConvgpxToHH);
+  table.Register("mnuConvertGarminToHH", mnuConvertGarminToHH);
+  table.Register("mnuLatLoninTxt", mnuLatLoninTxt);
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -101,6 +109,7 @@ CommandTable BuildCommandTable() {
   RegisterExportCommands(table);
   RegisterWebCommands(table);
   RegisterEditorCommands(table);
+  RegisterHandheldCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;

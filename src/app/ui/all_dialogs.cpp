@@ -3,6 +3,7 @@
 #include "app/ui/about_windows.hpp"
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "export/ui/export_dialogs.hpp"
+#include "handheld/ui/dlg_delim_and_type_window.hpp"
 #include "session/ui/session_dialogs.hpp"
 #include "view/ui/editor_dialogs.hpp"
 #include "web/ui/web_dialogs.hpp"
@@ -18,6 +19,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterWebDialogs(platform);
   RegisterMarkListDialogs();
   RegisterEditorDialogs();
+  RegisterHandheldDialogs(platform);
 }
 
 }  // namespace benchlog::qt
