@@ -10,9 +10,12 @@
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
 #include "kml/kml_export.hpp"
+#include "plot/map_image.hpp"
 #include "view/class_filter.hpp"
 #include "view/reference_positions.hpp"
+#include "view/report_commands.hpp"
 #include "view/view_by_class.hpp"
+#include "view/viewer_print.hpp"
 #include "web/service_address_form.hpp"
 #include "web/update_by_county.hpp"
 #include "web/update_by_pid.hpp"
@@ -77,6 +80,24 @@ void RegisterWebCommands(CommandTable& table) {
   table.Register("mnuGetTownOCO", mnuGetTownOCO);
 }
 
+void RegisterReportCommands(CommandTable& table) {
+  table.Register("mnuViewPhotoList", mnuViewPhotoList);
+  table.Register("mnuViewSketchList", mnuViewSketchList);
+  table.Register("mnuPostedHts", mnuPostedHts);
+  table.Register("mnuBmNotGPSed", mnuBmNotGPSed);
+  table.Register("mnuRecNotPhoto", mnuRecNotPhoto);
+  table.Register("mnuNotSearched", mnuNotSearched);
+  table.Register("mnuPrintNRList", mnuPrintNRList);
+  table.Register("mnuViewError", mnuViewError);
+  table.Register("mnuViewPhoto", mnuViewPhoto);
+  table.Register("mnuViewSketch", mnuViewSketch);
+  table.Register("mnuViewText", mnuViewText);
+  table.Register("mnuEditSA", mnuEditSA);
+  table.Register("mnuViewSAFile", mnuEditSA);
+  table.Register("mnuOpenMap", mnuOpenMap);
+  SetViewerPrint(PrintViewerText);
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -92,6 +113,7 @@ CommandTable BuildCommandTable() {
   RegisterViewCommands(table);
   RegisterExportCommands(table);
   RegisterWebCommands(table);
+  RegisterReportCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;
