@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QImage>
 #include <QLabel>
+#include <QMainWindow>
 #include <QProcess>
 #include <QScrollBar>
 #include <QStandardPaths>
@@ -17,6 +18,7 @@
 #include "platform/qt/qt_printer.hpp"
 #include "plot/frm_image.hpp"
 #include "plot/ui/frm_image_window.hpp"
+#include "plot/ui/map_image_view.hpp"
 #include "view/print_array.hpp"
 
 using namespace benchlog;
@@ -131,6 +133,29 @@ class PrintingAndPicturesTest : public QObject {
     QCOMPARE(model.view.picture2Width, 10);
     QVERIFY(model.view.HScroll1.Max < 0);  // smaller than the viewport
     QCOMPARE(window.Picture()->HScroll1()->maximum(), 0);
+  }
+
+  void theMapFillsTheMainWindowAndFollowsItsSize() {
+    testing::TempFolder folder;
+    QImage(900, 700, QImage::Format_RGB32).save(QString::fromStdString(folder.File("map.bmp")), "BMP");
+    testing::FakePlatform fake;
+    qt::QtPictureReader reader;
+    fake.platform.pictures = &reader;
+    QMainWindow main;
+    MapImage model;
+    model.view.Load(reader, folder.File("map.bmp"));
+    auto* view = new qt::MapImageView(model, fake.platform, &main);
+    QCOMPARE(main.centralWidget(), view);
+    view->LoadFromModel();
+    main.resize(500, 400);
+    main.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&main));
+    const int bar = view->Picture()->VBarWidth();
+    QCOMPARE(model.view.picture1Width, view->width() - bar);
+    QCOMPARE(view->Picture()->VScroll1()->maximum(), 700 - (view->height() - bar));
+    main.resize(700, 500);
+    QTRY_COMPARE(model.view.picture1Width, view->width() - bar);
+    QCOMPARE(view->Picture()->HScroll1()->maximum(), 900 - model.view.picture1Width);
   }
 };
 

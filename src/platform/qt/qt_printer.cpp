@@ -59,9 +59,16 @@ void QtPrinter::Print(const std::function<void(QPrinter&)>& paint) {
   preview.exec();
 }
 
-void QtPrinter::PaintText(QPrinter& printer, const PrintDocument& document) {
+namespace {
+// The page set-up of a document; set before a preview opens, so the preview shows the pages as printed.
+void SetUp(QPrinter& printer, QPageLayout::Orientation orientation) {
   printer.setFullPage(true);
-  printer.setPageOrientation(QtOrientation(document.orientation));
+  if (printer.pageLayout().orientation() != orientation) printer.setPageOrientation(orientation);
+}
+}  // namespace
+
+void QtPrinter::PaintText(QPrinter& printer, const PrintDocument& document) {
+  SetUp(printer, QtOrientation(document.orientation));
   QPainter painter;
   if (!painter.begin(&printer)) throw PrinterError();
   const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Point).size();
@@ -84,6 +91,7 @@ void QtPrinter::PaintText(QPrinter& printer, const PrintDocument& document) {
 }
 
 void QtPrinter::PrintText(const PrintDocument& document) {
+  SetUp(*printer_, QtOrientation(document.orientation));
   Print([&document](QPrinter& printer) { PaintText(printer, document); });
 }
 
@@ -91,9 +99,9 @@ void QtPrinter::PrintPicture(const std::string& path) {
   QImageReader reader(qt::ToQt(path));
   const QImage picture = reader.read();
   if (picture.isNull()) throw RuntimeFailure(481, "Invalid picture: " + path);
+  SetUp(*printer_, QPageLayout::Landscape);
   Print([&picture](QPrinter& printer) {
-    printer.setFullPage(true);
-    printer.setPageOrientation(QPageLayout::Landscape);
+    SetUp(printer, QPageLayout::Landscape);
     QPainter painter;
     if (!painter.begin(&printer)) throw PrinterError();
     // The picture's natural size is its size on a 96-dpi screen; what the page cannot hold is cut off.
