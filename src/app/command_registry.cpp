@@ -12,10 +12,13 @@
 #include "handheld/handheld_commands.hpp"
 #include "kml/kml_export.hpp"
 #include "view/character_check.hpp"
+#include "plot/map_image.hpp"
 #include "view/class_filter.hpp"
 #include "view/frm_edit.hpp"
 #include "view/reference_positions.hpp"
+#include "view/report_commands.hpp"
 #include "view/view_by_class.hpp"
+#include "view/viewer_print.hpp"
 #include "web/service_address_form.hpp"
 #include "web/update_by_county.hpp"
 #include "web/update_by_pid.hpp"
@@ -93,6 +96,22 @@ void RegisterHandheldCommands(CommandTable& table) {
   table.Register("mnuLatLoninTxt", mnuLatLoninTxt);
 }
 
+void RegisterReportCommands(CommandTable& table) {
+  table.Register("mnuViewPhotoList", mnuViewPhotoList);
+  table.Register("mnuViewSketchList", mnuViewSketchList);
+  table.Register("mnuPostedHts", mnuPostedHts);
+  table.Register("mnuBmNotGPSed", mnuBmNotGPSed);
+  table.Register("mnuRecNotPhoto", mnuRecNotPhoto);
+  table.Register("mnuNotSearched", mnuNotSearched);
+  table.Register("mnuPrintNRList", mnuPrintNRList);
+  table.Register("mnuViewError", mnuViewError);
+  table.Register("mnuViewPhoto", mnuViewPhoto);
+  table.Register("mnuViewSketch", mnuViewSketch);
+  table.Register("mnuViewText", mnuViewText);
+  table.Register("mnuOpenMap", mnuOpenMap);
+  SetViewerPrint(PrintViewerText);
+}
+
 bool InMenuTree(const std::string& name) {
   for (const auto& entry : MainMenuTree())
     if (entry.name == name) return true;
@@ -110,6 +129,7 @@ CommandTable BuildCommandTable() {
   RegisterWebCommands(table);
   RegisterEditorCommands(table);
   RegisterHandheldCommands(table);
+  RegisterReportCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;

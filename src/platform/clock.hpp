@@ -1,5 +1,6 @@
 #pragma once
-// Monotonic time and waiting. Waits sleep rather than spin, and tests swap in a manual clock.
+// Monotonic time and waiting, and the year of the calendar. Waits sleep rather than spin, and tests
+// swap in a manual clock.
 #include <chrono>
 
 namespace benchlog {
@@ -11,6 +12,8 @@ class Clock {
   virtual ~Clock() = default;
   virtual TimePoint Now() = 0;
   virtual void Sleep(Duration duration) = 0;
+  // The year of the system's date, in local time.
+  virtual int CurrentYear();
 };
 
 class SystemClock final : public Clock {

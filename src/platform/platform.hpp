@@ -5,6 +5,8 @@
 #include "platform/clock.hpp"
 #include "platform/database.hpp"
 #include "platform/http_transport.hpp"
+#include "platform/picture_reader.hpp"
+#include "platform/printer.hpp"
 #include "platform/progress.hpp"
 #include "platform/settings_store.hpp"
 #include "platform/shell.hpp"
@@ -27,6 +29,8 @@ struct Platform {
   AppPaths paths;
   HttpTransport* http = nullptr;  // Inet1: the web service's transfer object; set by the program and the web tests
   Database* database = nullptr;   // the export's database engine; set by the program and the export tests
+  Printer* printer = nullptr;      // set by the program and the printing tests
+  PictureReader* pictures = nullptr;  // decodes map images and photos; set by the program and the picture tests
 };
 
 }  // namespace benchlog

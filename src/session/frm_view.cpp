@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <string>
+#include <utility>
 
 #include "session/command_table.hpp"
 #include "session/session.hpp"
@@ -136,7 +137,28 @@ void frmView::mnuFileSaveAs(Ui& ui) {
   }
 }
 
-void frmView::mnuPrintDesc(Ui& ui) { ui.MsgBox(kNotAvailableYet); }
+namespace {
+ViewerPrint& InstalledViewerPrint() {
+  static ViewerPrint print;
+  return print;
+}
+}  // namespace
+
+void SetViewerPrint(ViewerPrint print) { InstalledViewerPrint() = std::move(print); }
+
+void frmView::mnuPrintDesc(Ui& ui) {
+  const ViewerPrint& print = InstalledViewerPrint();
+  if (!print || !session || !platform) {
+    ui.MsgBox(kNotAvailableYet);
+    return;
+  }
+  try {
+    print(*this, *session, *platform);
+  } catch (const RuntimeFailure& failure) {
+    platform->dlgProcessing.Hide();
+    if (failure.number != kCancelError) ui.MsgBox(failure.description);
+  }
+}
 
 void frmView::Close() {
   PhotoFlag = 0;

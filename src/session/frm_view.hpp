@@ -48,7 +48,7 @@ class frmView : public DialogModel {
 
   // Where the window's own acts reach the rest of the program: the main window's session (for
   // DatFilePath) and the platform (Ui, settings). Set by ViewForm().
-  const Session* session = nullptr;
+  Session* session = nullptr;
   Platform* platform = nullptr;
 
   // Window settings of section "frmView": "Windowstate" (0), "Top", "Left" (0), "Height" (8475),
@@ -80,7 +80,9 @@ class frmView : public DialogModel {
   // "Save file as:"); an existing file is replaced only after "File exists.  Overwrite?" is
   // answered Yes. Cancelling ends it silently; a file that cannot be written shows the failure.
   void mnuFileSaveAs(Ui& ui);
-  // Printing from the viewer is not there yet: says so.
+  // Prints what the viewer shows, through the handler the printing layer installed with
+  // SetViewerPrint; a cancelled printer dialog ends it silently, another failure shows its text.
+  // Without a handler (or outside the program's session) it says the command is not available.
   void mnuPrintDesc(Ui& ui);
   // Esc and Exit: the text again, the picture cleared, Tag empty. The window then hides but keeps
   // its state.
@@ -93,6 +95,11 @@ class frmView : public DialogModel {
   void SetPictureCommands(const std::string& folder, const std::string& pid);
   bool ShowPicture(Ui& ui, const std::string& path, const PictureCheck& check);
 };
+
+// How the viewer's Print command prints: chosen by what the viewer shows. Installed once when the
+// program's commands are registered, since printing lives in a layer above the viewer.
+using ViewerPrint = std::function<void(frmView& view, Session& session, Platform& platform)>;
+void SetViewerPrint(ViewerPrint print);
 
 // The viewer of the session, tied to the session and the platform its window acts through.
 frmView& ViewForm(Session& session, Platform& platform);

@@ -38,7 +38,8 @@ MsgResult ScriptedUi::MsgBox(const MessageRequest& request) {
   return Next(msgAnswers, "message box \"" + request.text + "\"");
 }
 
-std::string ScriptedUi::InputBox(const std::string& prompt, const std::string&, const std::string&) {
+std::string ScriptedUi::InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) {
+  inputs.push_back(prompt + "|" + title + "|" + defaultText);
   return Next(inputAnswers, "input box \"" + prompt + "\"");
 }
 
@@ -79,6 +80,23 @@ FakePlatform::FakePlatform(const std::string& appPath)
   progress.observer = [this](const Progress& p) { progressHistory.push_back(p); };
   platform.http = &http;
   platform.database = &database;
+  platform.printer = &printer;
+  platform.pictures = &pictures;
+}
+
+bool RecordingPrinter::ChoosePrinter(const std::string& title) {
+  dialogs.push_back(title);
+  if (accept.empty()) return true;
+  const bool answer = accept.front();
+  accept.pop_front();
+  return answer;
+}
+
+PictureSize FakePictureReader::Read(const std::string& path) {
+  read.push_back(path);
+  const auto found = sizes.find(path);
+  if (found == sizes.end()) throw RuntimeFailure(481, "Invalid picture: " + path);
+  return found->second;
 }
 
 void RecordingDatabase::Create(const std::string& newPath, const std::string& newTable,

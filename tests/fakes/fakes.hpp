@@ -31,7 +31,9 @@ class ManualClock final : public Clock {
     slept += duration;
     now += duration;
   }
+  int CurrentYear() override { return year; }
   TimePoint now{};
+  int year = 2026;
   Duration slept{};
 };
 
@@ -77,6 +79,7 @@ class ScriptedUi final : public Ui {
   // Records.
   std::vector<MessageRequest> messages;
   std::vector<FileDialogRequest> fileDialogs;
+  std::vector<std::string> inputs;  // "prompt|title|default" of each input box
   std::vector<std::string> colorTitles;
   std::vector<std::string> helpShown;
   std::vector<DialogModel*> modals, modeless, hidden;
@@ -113,6 +116,27 @@ class RecordingDatabase final : public Database {
   std::optional<std::string> Field(std::size_t index, const std::string& name) const;
 };
 
+// The printer as a record: each dialog answers the next of `accept` (true when the queue is
+// empty), and each document or picture is kept in order.
+class RecordingPrinter final : public Printer {
+ public:
+  bool ChoosePrinter(const std::string& title) override;
+  void PrintText(const PrintDocument& document) override { documents.push_back(document); }
+  void PrintPicture(const std::string& path) override { pictures.push_back(path); }
+  std::deque<bool> accept;
+  std::vector<std::string> dialogs;
+  std::vector<PrintDocument> documents;
+  std::vector<std::string> pictures;
+};
+
+// Pictures by path: a size for each file named in `sizes`, RuntimeFailure 481 for any other.
+class FakePictureReader final : public PictureReader {
+ public:
+  PictureSize Read(const std::string& path) override;
+  std::map<std::string, PictureSize> sizes;
+  std::vector<std::string> read;
+};
+
 // A Platform wired to the fakes above, with App.Path in `appPath`.
 struct FakePlatform {
   explicit FakePlatform(const std::string& appPath = "");
@@ -123,6 +147,8 @@ struct FakePlatform {
   Progress progress;
   ScriptedHttp http;
   RecordingDatabase database;
+  RecordingPrinter printer;
+  FakePictureReader pictures;
   std::vector<Progress> progressHistory;  // a copy at every show, hide and refresh
   Platform platform;
 };

@@ -4,6 +4,7 @@
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "export/ui/export_dialogs.hpp"
 #include "handheld/ui/dlg_delim_and_type_window.hpp"
+#include "plot/ui/frm_image_window.hpp"
 #include "session/ui/session_dialogs.hpp"
 #include "view/ui/editor_dialogs.hpp"
 #include "web/ui/web_dialogs.hpp"
@@ -20,6 +21,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterMarkListDialogs();
   RegisterEditorDialogs();
   RegisterHandheldDialogs(platform);
+  RegisterImageWindows(platform);
 }
 
 }  // namespace benchlog::qt

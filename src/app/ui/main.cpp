@@ -17,6 +17,8 @@
 #include "platform/qt/progress_window.hpp"
 #include "platform/qt/qt_database.hpp"
 #include "platform/qt/qt_http_transport.hpp"
+#include "platform/qt/qt_picture_reader.hpp"
+#include "platform/qt/qt_printer.hpp"
 #include "platform/qt/qt_settings_store.hpp"
 #include "platform/qt/qt_shell.hpp"
 #include "platform/qt/qt_ui.hpp"
@@ -53,6 +55,8 @@ int main(int argc, char** argv) {
   platform.http = &transport;
   qt::QtDatabase database;
   platform.database = &database;
+  qt::QtPictureReader pictures;
+  platform.pictures = &pictures;
 
   const QString demoFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/demo";
   PrepareDemoDataset(settings, appPath + "/samples", qt::FromQt(demoFolder));
@@ -65,6 +69,8 @@ int main(int argc, char** argv) {
   WindowPlacement placement;
   auto frmMain = std::make_unique<qt::FrmMain>(session, platform, commands);
   ui.SetOwner(frmMain.get());
+  qt::QtPrinter printer(frmMain.get());
+  platform.printer = &printer;
   qt::ProgressWindow dlgProcessing(progress, frmMain.get());
   if (!LoadMainWindow(session, platform, placement)) return 0;
   frmMain->SyncFromSession();
