@@ -10,6 +10,7 @@
 #include "dataset/dataset_file_commands.hpp"
 #include "export/export_commands.hpp"
 #include "kml/kml_export.hpp"
+#include "plot/plot_commands.hpp"
 #include "view/class_filter.hpp"
 #include "view/reference_positions.hpp"
 #include "view/view_by_class.hpp"
@@ -68,6 +69,8 @@ void RegisterExportCommands(CommandTable& table) {
   table.Register("mnuViewGE", mnuViewGE);
 }
 
+void RegisterPlotCommands(CommandTable& table) { table.Register("mnuPlot", mnuPlot); }
+
 void RegisterWebCommands(CommandTable& table) {
   table.Register("mnuUpdateByCounty", mnuUpdateByCounty);
   table.Register("mnuUpdtLatLonRad", mnuUpdtLatLonRad);
@@ -92,6 +95,7 @@ CommandTable BuildCommandTable() {
   RegisterViewCommands(table);
   RegisterExportCommands(table);
   RegisterWebCommands(table);
+  RegisterPlotCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;
