@@ -63,6 +63,9 @@ void frmPlot::Load(const SettingsStore& settings) {
   placement.left = SettingNumber(settings, "Left", placement.left);
   placement.height = SettingNumber(settings, "Height", placement.height);
   placement.width = SettingNumber(settings, "Width", placement.width);
+  // Until the window measures its canvas: the saved size less the frame and the menu bar.
+  clientWidth = std::max(80.0, static_cast<double>(placement.width) / kTwipsPerPixel - 16);
+  clientHeight = std::max(60.0, static_cast<double>(placement.height) / kTwipsPerPixel - 60);
   canvas.fontName = FontName;
   canvas.fontSize = FontSize;
   loaded = true;
@@ -156,6 +159,12 @@ void frmPlot::Draw(const Session& session, Platform& platform) {
   for (int n = store.FirstPoint; n <= store.LastPoint; ++n)
     if (store.PtNorth[n] > 0.01 && store.PtEast[n] > 0.01) DrawMark(canvas, store, n, size, labels, classColor);
   platform.ui.SetHourglass(false);
+}
+
+void frmPlot::PlotAll() {
+  if (session == nullptr || platform == nullptr) return;
+  ZoomLevel = 0;
+  Plot(*session, *platform);
 }
 
 void frmPlot::TogglePointNumbers(SettingsStore& settings) {

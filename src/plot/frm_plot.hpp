@@ -43,6 +43,10 @@ class frmPlot : public DialogModel {
   WindowPlacement placement{kNormal, 0, 0, 7200, 10800};  // twips
   bool loaded = false;  // opened and not yet closed: the next opening reads the settings again
 
+  // Where the window's own commands reach the rest of the program; set by the Plot command.
+  const Session* session = nullptr;
+  Platform* platform = nullptr;
+
   // Opening: ZoomLevel 0, the options, the font and the saved geometry from section "frmPlot".
   void Load(const SettingsStore& settings);
   // Closing in the normal state saves "Top" and "Left" (when not negative), "Height" and "Width".
@@ -52,6 +56,9 @@ class frmPlot : public DialogModel {
   // marks (and towns, when shown). A failure is shown in a message box and leaves the canvas as it
   // stands; a missing UTMCoords.dat is shown titled "Load Plot File".
   void Plot(const Session& session, Platform& platform);
+
+  // The window's own Plot command: the full view again, reloaded from the files.
+  void PlotAll();
 
   // The Options menu: each toggle flips its check and saves it; Point Numbers and PID's turn each
   // other off (without saving the other). None redraws.

@@ -15,6 +15,8 @@ void mnuPlot(Session& session, Platform& platform) {
   } else {
     frmPlot& form = PlotForm(session);
     if (!form.loaded) form.Load(platform.settings);
+    form.session = &session;
+    form.platform = &platform;
     form.Plot(session, platform);
     platform.ui.ShowModeless(form);
   }

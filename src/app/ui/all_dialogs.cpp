@@ -3,6 +3,7 @@
 #include "app/ui/about_windows.hpp"
 #include "dataset/ui/frm_get_file_window.hpp"
 #include "export/ui/export_dialogs.hpp"
+#include "plot/ui/frm_plot_window.hpp"
 #include "session/ui/session_dialogs.hpp"
 #include "web/ui/web_dialogs.hpp"
 #include "web/ui/mark_list_dialogs.hpp"
@@ -16,6 +17,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterExportDialogs();
   RegisterWebDialogs(platform);
   RegisterMarkListDialogs();
+  qt::RegisterPlotWindow();
 }
 
 }  // namespace benchlog::qt
