@@ -10,6 +10,7 @@
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
 #include "plot/frm_plot.hpp"
+#include "plot/plot_commands.hpp"
 
 namespace benchlog {
 namespace {
@@ -214,6 +215,73 @@ TEST(PlotLayout, EmptyStoreAndMarksWithoutPositionDrawNothing) {
   std::size_t texts = 0;
   for (const auto& p : zero.form.canvas.Primitives()) texts += p.kind == PrimitiveKind::Text && p.text == "31";
   EXPECT_EQ(texts, 0u);
+}
+
+// The ticks of the level-5 view of the grid (left 599,520, top 4,030,360, right 640,480, bottom
+// 3,999,640, s = 384) in zone 17, which an index around 79.5 W gives. By GeographicLib the corner
+// (bottom + 2 s, right - 10 s) is 36 08 19.56 N, 79 28 52.74 W and (top, left) 36 24 47.77 N,
+// 79 53 23.96 W; on multiples of 450 seconds inside them: 36 15 00 and 36 22 30 N, 79 30 00 and
+// 79 52 30 W, whose grid positions are GeographicLib's too.
+TEST(PlotTicks, CornersOnTheGraticuleInsideTheView) {
+  PlotFixture plot(Grid30());
+  plot.form.mnuPlotGridTks = true;
+  plot.session.config.ellipsoidA = 6378137;
+  plot.session.config.ellipsoidE2 = 0.00669438002290;
+  plot.session.config.ellipsoidEp2 = 0.00669438002290 / (1 - 0.00669438002290);
+  plot.session.dataset.markIndex.Assign({"TK0001 1   36 00 00.00000 079 30 00.00000 TICK"});
+  plot.Plot();
+  struct Corner {
+    double east, north;
+    const char* latitude;
+    const char* longitude;
+  };
+  const Corner corners[] = {{600913.3119, 4026130.3437, " 36\xB0" "22'30\"", "079\xB0" "52'30\""},
+                            {634553.0949, 4026587.4453, " 36\xB0" "22'30\"", "079\xB0" "30'00\""},
+                            {601074.5595, 4012264.4859, " 36\xB0" "15'00\"", "079\xB0" "52'30\""},
+                            {634768.1231, 4012720.9611, " 36\xB0" "15'00\"", "079\xB0" "30'00\""}};
+  const auto& list = plot.form.canvas.Primitives();
+  ASSERT_GE(list.size(), 32u);
+  for (int i = 0; i < 4; ++i) {
+    SCOPED_TRACE(i);
+    const Corner& c = corners[i];
+    const PlotPrimitive& across = list[4 * i + 1];
+    const PlotPrimitive& up = list[4 * i + 3];
+    EXPECT_NEAR(across.x1, c.east - 192, 0.01);
+    EXPECT_NEAR(across.x2, c.east + 192, 0.01);
+    EXPECT_NEAR(across.y1, c.north, 0.01);
+    EXPECT_NEAR(up.y1, c.north - 192, 0.01);
+    EXPECT_NEAR(up.y2, c.north + 192, 0.01);
+    const PlotPrimitive& latitude = list[16 + 4 * i + 1];
+    const PlotPrimitive& longitude = list[16 + 4 * i + 3];
+    EXPECT_EQ(latitude.text, std::string(c.latitude));
+    EXPECT_EQ(longitude.text, std::string(c.longitude));
+    EXPECT_NEAR(longitude.y1, c.north - 30720.0 / 70, 0.01);
+  }
+}
+
+// The Plot command writes the files, opens the window from its settings and draws the full view.
+TEST(PlotCommand, PreparesTheFilesAndShowsTheWindow) {
+  TempFolder app;
+  FakePlatform fake(app.Path());
+  app.Write("Towns.txt", "");
+  fake.settings.SaveSetting("frmPlot", "PlotFontSize", "11");
+  testing::TestSession session;
+  session.config.ellipsoidA = 6378137;
+  session.config.ellipsoidE2 = 0.00669438002290;
+  session.dataset.markIndex.Assign({"PC0001 1   35 45 00.00000 077 45 00.00000 ONE",
+                                    "PC0002 2   35 46 00.00000 077 40 00.00000 TWO"});
+  mnuPlot(session, fake.platform);
+  EXPECT_TRUE(FileExists(app.File("UTMCoords.dat")));
+  ASSERT_EQ(fake.ui.modeless.size(), 1u);
+  const frmPlot& form = PlotForm(session);
+  EXPECT_EQ(fake.ui.modeless[0], &form);
+  EXPECT_TRUE(fake.ui.messages.empty());
+  EXPECT_FALSE(fake.ui.hourglass);
+  EXPECT_EQ(form.store.LastPoint, 2);
+  EXPECT_EQ(form.store.PtPid[2], "PC0002");
+  EXPECT_GT(form.ZoomLevel, 0);
+  EXPECT_EQ(form.canvas.Primitives().back().text, "PC0002");
+  EXPECT_EQ(form.canvas.Primitives().back().fontSize, 11);
 }
 
 TEST(PlotOptions, PointNumbersAndPidsTurnEachOtherOff) {
