@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <cmath>
 #include <map>
 
 #include "platform/qt/text_codec.hpp"
@@ -11,17 +12,22 @@ namespace {
 
 QColor ColorOf(std::uint32_t bgr) { return QColor(bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF); }
 
-// World metres to the target's coordinates.
+// World metres to the target's coordinates, on the centre of a device pixel, so that one-pixel
+// lines stay crisp under antialiasing at any device pixel ratio.
 struct Mapping {
   double x0, y0, sx, sy;
-  QPointF operator()(double x, double y) const { return {x0 + (x - x0World) * sx, y0 + (y - y0World) * sy}; }
   double x0World, y0World;
+  double ratio = 1;
+  double Snap(double v) const { return (std::floor(v * ratio) + 0.5) / ratio; }
+  QPointF operator()(double x, double y) const {
+    return {Snap(x0 + (x - x0World) * sx), Snap(y0 + (y - y0World) * sy)};
+  }
 };
 
 Mapping MappingOf(const PlotScale& scale, const QRectF& target) {
   const double dx = scale.right - scale.left, dy = scale.bottom - scale.top;
   const double sx = dx != 0 ? target.width() / dx : 1, sy = dy != 0 ? target.height() / dy : 1;
-  return {target.left(), target.top(), sx, sy, scale.left, scale.top};
+  return {target.left(), target.top(), sx, sy, scale.left, scale.top, 1};
 }
 
 // The fonts of one painting by size, with their ascent, made once each.
@@ -58,7 +64,8 @@ void PaintPlot(QPainter& painter, const PlotCanvas& canvas, const QRectF& target
   painter.setRenderHint(QPainter::Antialiasing, true);
   painter.setRenderHint(QPainter::TextAntialiasing, true);
   painter.setBrush(Qt::NoBrush);
-  const Mapping map = MappingOf(canvas.Scale(), target);
+  Mapping map = MappingOf(canvas.Scale(), target);
+  if (painter.device() != nullptr) map.ratio = painter.device()->devicePixelRatioF();
   Fonts fonts(canvas.fontName, painter.device());
   QPen pen(ColorOf(kColorBlack), 0);  // cosmetic: one pixel wide on every device
   std::uint32_t penColor = kColorBlack;
