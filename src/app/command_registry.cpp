@@ -13,6 +13,7 @@
 #include "kml/kml_export.hpp"
 #include "view/character_check.hpp"
 #include "plot/map_image.hpp"
+#include "plot/plot_commands.hpp"
 #include "view/class_filter.hpp"
 #include "view/frm_edit.hpp"
 #include "view/reference_positions.hpp"
@@ -74,6 +75,8 @@ void RegisterExportCommands(CommandTable& table) {
   table.Register("mnuViewGE", mnuViewGE);
 }
 
+void RegisterPlotCommands(CommandTable& table) { table.Register("mnuPlot", mnuPlot); }
+
 void RegisterWebCommands(CommandTable& table) {
   table.Register("mnuUpdateByCounty", mnuUpdateByCounty);
   table.Register("mnuUpdtLatLonRad", mnuUpdtLatLonRad);
@@ -130,6 +133,7 @@ CommandTable BuildCommandTable() {
   RegisterEditorCommands(table);
   RegisterHandheldCommands(table);
   RegisterReportCommands(table);
+  RegisterPlotCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
   return table;

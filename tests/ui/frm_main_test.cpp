@@ -203,7 +203,7 @@ class FrmMainTest : public QObject {
     QTest::keyClick(&window, Qt::Key_F10);
     QVERIFY(window.Action("mnuLatLoninTxt")->isVisible());
 
-    window.Action("mnuPlot")->trigger();
+    window.Action("mnuHHDiscrep")->trigger();
     QCOMPARE(s.fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
     s.fake.ui.colorAnswers.push_back(std::uint32_t{0x00FF00});
     window.Action("mnuSetBackColor")->trigger();

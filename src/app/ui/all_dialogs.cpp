@@ -5,6 +5,7 @@
 #include "export/ui/export_dialogs.hpp"
 #include "handheld/ui/dlg_delim_and_type_window.hpp"
 #include "plot/ui/frm_image_window.hpp"
+#include "plot/ui/frm_plot_window.hpp"
 #include "session/ui/session_dialogs.hpp"
 #include "view/ui/editor_dialogs.hpp"
 #include "web/ui/web_dialogs.hpp"
@@ -22,6 +23,7 @@ void RegisterAllDialogs(Platform& platform) {
   RegisterEditorDialogs();
   RegisterHandheldDialogs(platform);
   RegisterImageWindows(platform);
+  qt::RegisterPlotWindow();
 }
 
 }  // namespace benchlog::qt

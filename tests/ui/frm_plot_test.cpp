@@ -1,0 +1,91 @@
+// The plot window offscreen: it paints the model's primitive list, scaled to its canvas, and its
+// Options menu reaches the model and the settings.
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QTest>
+
+#include "fakes/fakes.hpp"
+#include "plot/frm_plot.hpp"
+#include "plot/ui/frm_plot_window.hpp"
+#include "plot/ui/plot_painter.hpp"
+
+using namespace benchlog;
+
+class FrmPlotTest : public QObject {
+  Q_OBJECT
+
+ private:
+  // Is there a pixel near (x, y) of `image` whose colour is close to `color` (0x00BBGGRR)?
+  static bool ColorNear(const QImage& image, int x, int y, std::uint32_t color) {
+    const QColor want(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+    for (int dx = -2; dx <= 2; ++dx)
+      for (int dy = -2; dy <= 2; ++dy) {
+        const QColor got = image.pixelColor(x + dx, y + dy);
+        if (std::abs(got.red() - want.red()) < 60 && std::abs(got.green() - want.green()) < 60 &&
+            std::abs(got.blue() - want.blue()) < 60)
+          return true;
+      }
+    return false;
+  }
+
+ private slots:
+  // World 0..1000 east, 0..750 north onto the canvas: a red box, a blue line and a label, each
+  // found at its place in the window's own painting; the background is white elsewhere.
+  void PaintsTheModelsList() {
+    testing::FakePlatform fake;
+    frmPlot model;
+    model.platform = &fake.platform;
+    model.Caption = "Viewing area: 31 X 41 Km";
+    model.canvas.SetScale(0, 750, 1000, 0);
+    model.canvas.Box(100, 650, 400, 350, kColorRed);
+    model.canvas.LineBy(500, 100, 400, 0, kColorBlue);
+    model.canvas.foreColor = kColorBlack;
+    model.canvas.fontSize = 14;
+    model.canvas.currentX = 500;
+    model.canvas.currentY = 700;
+    model.canvas.Print("WWWWWW");
+    qt::FrmPlotWindow window(model);
+    window.LoadFromModel();
+    window.resize(600, 500);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.windowTitle(), QString("Viewing area: 31 X 41 Km"));
+    QWidget* canvas = window.Canvas();
+    QCOMPARE(model.clientWidth, double(canvas->width()));
+    QCOMPARE(model.clientHeight, double(canvas->height()));
+    const QImage image = canvas->grab().toImage();
+    const double sx = image.width() / 1000.0;
+    const double sy = image.height() / 750.0;
+    auto at = [&](double east, double north) { return QPoint(int(east * sx), int((750 - north) * sy)); };
+    const QPoint boxLeft = at(100, 500), boxInside = at(250, 500), line = at(700, 100), text = at(520, 690);
+    QVERIFY(ColorNear(image, boxLeft.x(), boxLeft.y(), kColorRed));
+    QCOMPARE(image.pixelColor(boxInside), QColor(Qt::white));
+    QVERIFY(ColorNear(image, line.x(), line.y(), kColorBlue));
+    QVERIFY(!ColorNear(image, line.x(), line.y() - 20, kColorBlue));
+    bool inked = false;
+    for (int x = text.x(); x < text.x() + 40 && !inked; ++x) inked = image.pixelColor(x, text.y() + 6).value() < 128;
+    QVERIFY(inked);
+  }
+
+  void OptionsReachTheModelAndTheSettings() {
+    testing::FakePlatform fake;
+    frmPlot model;
+    model.Load(fake.settings);
+    model.platform = &fake.platform;
+    qt::FrmPlotWindow window(model);
+    window.LoadFromModel();
+    QVERIFY(window.Action("mnuPltPID")->isChecked());
+    window.Action("mnuPltNum")->trigger();  // off
+    window.Action("mnuPltNum")->trigger();  // on again: PID's off
+    QVERIFY(window.Action("mnuPltNum")->isChecked());
+    QVERIFY(!window.Action("mnuPltPID")->isChecked());
+    QVERIFY(!model.mnuPltPID);
+    window.Action("mnuPlotCities")->trigger();
+    QVERIFY(model.mnuPlotCities);
+    QCOMPARE(QString::fromStdString(fake.settings.GetSetting("frmPlot", "PlotCities", "")), QString("True"));
+  }
+};
+
+QTEST_MAIN(FrmPlotTest)
+#include "frm_plot_test.moc"
