@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <tuple>
 
 #include "common/files.hpp"
@@ -193,49 +194,44 @@ TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
   EXPECT_FALSE(o.session.menu["mnuViewHcl"].enabled);
 }
 
-TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
-  Opening o;
-  CopyFixture(o.data, "landmarks.dat");
-  o.data.Write("landmarks.hcl", "");
-  o.data.Write("landmarks.err", "");
-  EXPECT_TRUE(o.Load());
-  ASSERT_FALSE(o.fake.progressHistory.empty());
-  EXPECT_EQ(testing::Describe(o.fake.progressHistory.front()), "Creating index...|Please wait...|1/0");  // 3513 bytes / 5000
-  EXPECT_FALSE(o.fake.progress.Visible());
-  EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
-  EXPECT_EQ(ReadWholeFile(o.session.dataset.IndexFile), Fixture("landmarks.ndx"));
-  EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile);
-  EXPECT_TRUE(o.session.menu["mnuViewHcl"].enabled);
-  EXPECT_FALSE(o.session.menu["mnuViewVcl"].enabled);
-  EXPECT_TRUE(o.session.menu["mnuViewError"].enabled);
-}
-
-// The index is judged by its sentinel alone: the dataset's length.
-TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
+// A missing index is built behind the progress dialog; an existing one is judged by its sentinel
+// alone (the dataset's length) and rebuilt without the dialog when stale.
+TEST(LoadDatasetIndex, BuildsAMissingIndexAndRebuildsAStaleOne) {
   const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003513 |\r\n";
-  // name, index file, rebuilt
-  for (const auto& [name, index, rebuilt] : {std::tuple<const char*, std::string, bool>{"valid", Fixture("landmarks.ndx"), false},
-                                             {"other dataset's length", Fixture("layouts.ndx"), true},
-                                             {"same length, other content", garbage, false},
-                                             {"empty file", "", true},
-                                             {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true}}) {
+  // name, index file (none: missing), rebuilt
+  for (const auto& [name, index, rebuilt] :
+       {std::tuple<const char*, std::optional<std::string>, bool>{"missing", std::nullopt, true},
+        {"valid", Fixture("landmarks.ndx"), false},
+        {"other dataset's length", Fixture("layouts.ndx"), true},
+        {"same length, other content", garbage, false},
+        {"empty file", "", true},
+        {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true}}) {
     Opening o;
     CopyFixture(o.data, "landmarks.dat");
-    o.app.Write("landmarks.ndx", index);
+    o.data.Write("landmarks.hcl", "");
+    o.data.Write("landmarks.err", "");
+    if (index) o.app.Write("landmarks.ndx", *index);
     EXPECT_EQ(o.Load(), rebuilt) << name;
-    EXPECT_TRUE(std::none_of(o.fake.progressHistory.begin(), o.fake.progressHistory.end(),
-                             [](const Progress& p) { return p.Visible(); }))
-        << name;
+    EXPECT_FALSE(o.fake.progress.Visible()) << name;
+    const auto& shown = o.fake.progressHistory;
+    if (!index) {
+      ASSERT_FALSE(shown.empty());
+      EXPECT_EQ(testing::Describe(shown.front()), "Creating index...|Please wait...|1/0");  // 3513 bytes / 5000
+    } else {
+      EXPECT_TRUE(std::none_of(shown.begin(), shown.end(), [](const Progress& p) { return p.Visible(); })) << name;
+    }
     EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << name;
     const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
-    EXPECT_EQ(onDisk, rebuilt ? Fixture("landmarks.ndx") : index) << name;
+    EXPECT_EQ(onDisk, rebuilt ? Fixture("landmarks.ndx") : *index) << name;
     if (rebuilt) {
       EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << name;
       EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << name;  // built layout: 8 Descriptions
       EXPECT_EQ(o.session.dataset.markIndex[7], "") << name;
+      EXPECT_TRUE(o.session.menu["mnuViewHcl"].enabled && o.session.menu["mnuViewError"].enabled) << name;
+      EXPECT_FALSE(o.session.menu["mnuViewVcl"].enabled) << name;
     } else {
       EXPECT_TRUE(o.fake.ui.messages.empty()) << name;
-      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(index)) << name;
+      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(*index)) << name;
     }
   }
 }
