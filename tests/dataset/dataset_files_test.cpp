@@ -248,16 +248,11 @@ std::string Record(const char* pid, std::uint64_t offset, const char* longitude 
   return FormatIndexRecord(r);
 }
 
-// The index of tests/data/dataset/quirk_lookup_cases.txt.
-MarkIndex QuirkIndex() {
+TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
+  // The index of tests/data/dataset/quirk_lookup_cases.txt.
   MarkIndex index;
   index.Assign({Record("XX0001", 1, "104 59 31.54321", "REF XX0002 OLD"),
                 Record("XX0002", 500, "105 05 52.76543", "KIPLING"), SentinelRecord(900), ""});
-  return index;
-}
-
-TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
-  const MarkIndex index = QuirkIndex();
   for (const auto& c : testing::ReadRows("dataset/quirk_lookup_cases.txt", 4, '|')) {
     const MarkLocation at = LocateMark(index, c[0]);
     EXPECT_EQ(at.position, std::stoul(c[1])) << c[0];
@@ -304,17 +299,6 @@ TEST_F(Lookup, SpansInBothLayouts) {
 // landmarks.dat: 8 Descriptions CD0001..CD0008 at these offsets, 3513 bytes in all.
 constexpr std::size_t kOffsets[] = {1, 467, 889, 1318, 1799, 2214, 2634, 3091, 3514};
 
-struct Landmarks {
-  TempFolder folder;
-  std::string dat = CopyFixture(folder, "landmarks.dat");
-  std::string original = Fixture("landmarks.dat");
-  MarkIndex index;
-  Landmarks() { LoadIndexFile(CopyFixture(folder, "landmarks.ndx"), index); }
-  std::string Span(int i, std::size_t shortBy = 0) const {
-    return original.substr(kOffsets[i] - 1, kOffsets[i + 1] - kOffsets[i] - shortBy);
-  }
-};
-
 // Reading gives the span between two offsets; blanking writes blanks and CR LF over it and keeps
 // the length. The last Description ends at the dataset's length, one byte short of its final LF,
 // which stays behind the CR LF; an empty PID is found at the start.
@@ -322,14 +306,18 @@ TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
   const std::tuple<const char*, int, std::size_t> cases[] = {
       {"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}, {"", 0, 0}};
   for (const auto& [pid, description, shortBy] : cases) {
-    Landmarks data;
+    TempFolder folder;
+    const std::string dat = CopyFixture(folder, "landmarks.dat"), original = Fixture("landmarks.dat");
+    MarkIndex index;
+    LoadIndexFile(CopyFixture(folder, "landmarks.ndx"), index);
     std::string text;
-    EXPECT_EQ(GetDescription(data.index, data.dat, pid, text), "") << pid;
-    EXPECT_EQ(text, data.Span(description, shortBy)) << pid;
-    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
-    std::string expected = data.original;
+    EXPECT_EQ(GetDescription(index, dat, pid, text), "") << pid;
+    EXPECT_EQ(text, original.substr(kOffsets[description] - 1, kOffsets[description + 1] - kOffsets[description] - shortBy))
+        << pid;
+    EXPECT_EQ(BlankDescription(index, dat, pid), "") << pid;
+    std::string expected = original;
     expected.replace(kOffsets[description] - 1, text.size(), std::string(text.size() - 2, ' ') + "\r\n");
-    const std::string after = ReadWholeFile(data.dat);
+    const std::string after = ReadWholeFile(dat);
     EXPECT_EQ(after, expected) << pid;
     if (shortBy == 0) continue;
     EXPECT_EQ(text.substr(text.size() - 2), "E\r");
