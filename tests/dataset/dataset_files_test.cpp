@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <tuple>
 
 #include "common/files.hpp"
@@ -193,49 +194,44 @@ TEST(LoadDatasetIndex, AMissingDatasetSetsTheDerivedPathsOnly) {
   EXPECT_FALSE(o.session.menu["mnuViewHcl"].enabled);
 }
 
-TEST(LoadDatasetIndex, BuildsAMissingIndexBehindTheProgressDialog) {
-  Opening o;
-  CopyFixture(o.data, "landmarks.dat");
-  o.data.Write("landmarks.hcl", "");
-  o.data.Write("landmarks.err", "");
-  EXPECT_TRUE(o.Load());
-  ASSERT_FALSE(o.fake.progressHistory.empty());
-  EXPECT_EQ(testing::Describe(o.fake.progressHistory.front()), "Creating index...|Please wait...|1/0");  // 3513 bytes / 5000
-  EXPECT_FALSE(o.fake.progress.Visible());
-  EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."});
-  EXPECT_EQ(ReadWholeFile(o.session.dataset.IndexFile), Fixture("landmarks.ndx"));
-  EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile);
-  EXPECT_TRUE(o.session.menu["mnuViewHcl"].enabled);
-  EXPECT_FALSE(o.session.menu["mnuViewVcl"].enabled);
-  EXPECT_TRUE(o.session.menu["mnuViewError"].enabled);
-}
-
-// The index is judged by its sentinel alone: the dataset's length.
-TEST(LoadDatasetIndex, ValidOrStaleBySentinel) {
+// A missing index is built behind the progress dialog; an existing one is judged by its sentinel
+// alone (the dataset's length) and rebuilt without the dialog when stale.
+TEST(LoadDatasetIndex, BuildsAMissingIndexAndRebuildsAStaleOne) {
   const std::string garbage = "not a record\r\n" + std::string(134, ' ') + "000003513 |\r\n";
-  // name, index file, rebuilt
-  for (const auto& [name, index, rebuilt] : {std::tuple<const char*, std::string, bool>{"valid", Fixture("landmarks.ndx"), false},
-                                             {"other dataset's length", Fixture("layouts.ndx"), true},
-                                             {"same length, other content", garbage, false},
-                                             {"empty file", "", true},
-                                             {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true}}) {
+  // name, index file (none: missing), rebuilt
+  for (const auto& [name, index, rebuilt] :
+       {std::tuple<const char*, std::optional<std::string>, bool>{"missing", std::nullopt, true},
+        {"valid", Fixture("landmarks.ndx"), false},
+        {"other dataset's length", Fixture("layouts.ndx"), true},
+        {"same length, other content", garbage, false},
+        {"empty file", "", true},
+        {"records only, no sentinel", Fixture("landmarks.ndx").substr(0, 147 * 3), true}}) {
     Opening o;
     CopyFixture(o.data, "landmarks.dat");
-    o.app.Write("landmarks.ndx", index);
+    o.data.Write("landmarks.hcl", "");
+    o.data.Write("landmarks.err", "");
+    if (index) o.app.Write("landmarks.ndx", *index);
     EXPECT_EQ(o.Load(), rebuilt) << name;
-    EXPECT_TRUE(std::none_of(o.fake.progressHistory.begin(), o.fake.progressHistory.end(),
-                             [](const Progress& p) { return p.Visible(); }))
-        << name;
+    EXPECT_FALSE(o.fake.progress.Visible()) << name;
+    const auto& shown = o.fake.progressHistory;
+    if (!index) {
+      ASSERT_FALSE(shown.empty());
+      EXPECT_EQ(testing::Describe(shown.front()), "Creating index...|Please wait...|1/0");  // 3513 bytes / 5000
+    } else {
+      EXPECT_TRUE(std::none_of(shown.begin(), shown.end(), [](const Progress& p) { return p.Visible(); })) << name;
+    }
     EXPECT_EQ(o.session.shell.caption, o.session.dataset.DatFile) << name;
     const std::string onDisk = ReadWholeFile(o.session.dataset.IndexFile);
-    EXPECT_EQ(onDisk, rebuilt ? Fixture("landmarks.ndx") : index) << name;
+    EXPECT_EQ(onDisk, rebuilt ? Fixture("landmarks.ndx") : *index) << name;
     if (rebuilt) {
       EXPECT_EQ(o.fake.ui.MessageTexts(), std::vector<std::string>{"Index file created."}) << name;
       EXPECT_EQ(o.session.dataset.markIndex.Size(), 10u) << name;  // built layout: 8 Descriptions
       EXPECT_EQ(o.session.dataset.markIndex[7], "") << name;
+      EXPECT_TRUE(o.session.menu["mnuViewHcl"].enabled && o.session.menu["mnuViewError"].enabled) << name;
+      EXPECT_FALSE(o.session.menu["mnuViewVcl"].enabled) << name;
     } else {
       EXPECT_TRUE(o.fake.ui.messages.empty()) << name;
-      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(index)) << name;
+      EXPECT_EQ(o.session.dataset.markIndex.Elements(), SplitCrLf(*index)) << name;
     }
   }
 }
@@ -252,16 +248,11 @@ std::string Record(const char* pid, std::uint64_t offset, const char* longitude 
   return FormatIndexRecord(r);
 }
 
-// The index of tests/data/dataset/quirk_lookup_cases.txt.
-MarkIndex QuirkIndex() {
+TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
+  // The index of tests/data/dataset/quirk_lookup_cases.txt.
   MarkIndex index;
   index.Assign({Record("XX0001", 1, "104 59 31.54321", "REF XX0002 OLD"),
                 Record("XX0002", 500, "105 05 52.76543", "KIPLING"), SentinelRecord(900), ""});
-  return index;
-}
-
-TEST(MarkLookup, ReadsTheOffsetsBehindTheFirstOccurrence) {
-  const MarkIndex index = QuirkIndex();
   for (const auto& c : testing::ReadRows("dataset/quirk_lookup_cases.txt", 4, '|')) {
     const MarkLocation at = LocateMark(index, c[0]);
     EXPECT_EQ(at.position, std::stoul(c[1])) << c[0];
@@ -308,17 +299,6 @@ TEST_F(Lookup, SpansInBothLayouts) {
 // landmarks.dat: 8 Descriptions CD0001..CD0008 at these offsets, 3513 bytes in all.
 constexpr std::size_t kOffsets[] = {1, 467, 889, 1318, 1799, 2214, 2634, 3091, 3514};
 
-struct Landmarks {
-  TempFolder folder;
-  std::string dat = CopyFixture(folder, "landmarks.dat");
-  std::string original = Fixture("landmarks.dat");
-  MarkIndex index;
-  Landmarks() { LoadIndexFile(CopyFixture(folder, "landmarks.ndx"), index); }
-  std::string Span(int i, std::size_t shortBy = 0) const {
-    return original.substr(kOffsets[i] - 1, kOffsets[i + 1] - kOffsets[i] - shortBy);
-  }
-};
-
 // Reading gives the span between two offsets; blanking writes blanks and CR LF over it and keeps
 // the length. The last Description ends at the dataset's length, one byte short of its final LF,
 // which stays behind the CR LF; an empty PID is found at the start.
@@ -326,14 +306,18 @@ TEST(DescriptionFile, ReadsAndBlanksTheSpanBetweenTwoOffsets) {
   const std::tuple<const char*, int, std::size_t> cases[] = {
       {"CD0001", 0, 0}, {"CD0004", 3, 0}, {"CD0007", 6, 0}, {"CD0008", 7, 1}, {"", 0, 0}};
   for (const auto& [pid, description, shortBy] : cases) {
-    Landmarks data;
+    TempFolder folder;
+    const std::string dat = CopyFixture(folder, "landmarks.dat"), original = Fixture("landmarks.dat");
+    MarkIndex index;
+    LoadIndexFile(CopyFixture(folder, "landmarks.ndx"), index);
     std::string text;
-    EXPECT_EQ(GetDescription(data.index, data.dat, pid, text), "") << pid;
-    EXPECT_EQ(text, data.Span(description, shortBy)) << pid;
-    EXPECT_EQ(BlankDescription(data.index, data.dat, pid), "") << pid;
-    std::string expected = data.original;
+    EXPECT_EQ(GetDescription(index, dat, pid, text), "") << pid;
+    EXPECT_EQ(text, original.substr(kOffsets[description] - 1, kOffsets[description + 1] - kOffsets[description] - shortBy))
+        << pid;
+    EXPECT_EQ(BlankDescription(index, dat, pid), "") << pid;
+    std::string expected = original;
     expected.replace(kOffsets[description] - 1, text.size(), std::string(text.size() - 2, ' ') + "\r\n");
-    const std::string after = ReadWholeFile(data.dat);
+    const std::string after = ReadWholeFile(dat);
     EXPECT_EQ(after, expected) << pid;
     if (shortBy == 0) continue;
     EXPECT_EQ(text.substr(text.size() - 2), "E\r");

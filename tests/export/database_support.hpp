@@ -1,7 +1,6 @@
 #pragma once
 // The choices of frmCDT as tests/data/export/database_tables.txt writes them, shared by the
 // database tests with the recording engine and with the program's own.
-#include <sstream>
 #include <string>
 #include <vector>
 

@@ -5,7 +5,6 @@
 // data sheets (support/samples/sample.dat).
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstdio>
 #include <set>
 #include <string>

@@ -76,49 +76,31 @@ TEST(WebDialogs, KeyFiltersTypeSwallowBeepAndClose) {
   benchlog::testing::MemorySettings settings;
   for (const auto& row : benchlog::testing::ReadRows("web/key_filters.txt", 30, '|')) {
     const int key = std::stoi(row[1]);
-    frmOptions options;
-    frmListings listings;
-    dlgTypeControl types;
-    dlgLatLonRad point;
-    DialogModel* model = nullptr;
-    KeyOutcome outcome;
-    bool shown = false, kept = false;
-    if (row[0] == "frmOptions") {
-      options.Load(settings);
-      options.cboChoices = "NC";
-      options.Visible = true;
-      options.Tag = "before";
-      outcome = options.filterKey(key);
-      model = &options;
-      shown = options.Visible;
-      kept = options.cboChoices == "NC";
-    } else if (row[0] == "frmListings") {
-      listings.AddItem("FY3210");
-      listings.Visible = true;
-      listings.Tag = "before";
-      outcome = listings.filterKey(key);
-      model = &listings;
-      shown = listings.Visible;
-      kept = listings.lstChoices.size() == 1;
-    } else if (row[0] == "dlgTypeControl") {
-      types.Visible = true;
-      types.Tag = "before";
-      outcome = types.filterKey(key);
-      model = &types;
-      shown = types.Visible;
-      kept = types.TypeCode() == "X-0-0";
-    } else {
-      point.Text1[0] = "N39";
-      point.Visible = true;
-      point.Tag = "before";
-      outcome = point.filterKey(key);
-      model = &point;
-      shown = point.Visible;
-      kept = point.Text1[0] == "N39";
-    }
-    const std::vector<std::string> actual{std::to_string(outcome.key), outcome.beep ? "1" : "0",
-                                          outcome.nextControl ? "1" : "0", model->Tag, shown ? "1" : "0",
-                                          kept ? "1" : "0"};
+    // Shows `form` with the tag "before" and its content, presses the key, reads the outcome.
+    const auto press = [key](auto&& form, auto fill, auto kept) {
+      fill(form);
+      form.Visible = true;
+      form.Tag = "before";
+      const KeyOutcome outcome = form.filterKey(key);
+      return std::vector<std::string>{std::to_string(outcome.key), outcome.beep ? "1" : "0",
+                                      outcome.nextControl ? "1" : "0", form.Tag, form.Visible ? "1" : "0",
+                                      kept(form) ? "1" : "0"};
+    };
+    std::vector<std::string> actual;
+    if (row[0] == "frmOptions")
+      actual = press(frmOptions(), [&settings](frmOptions& f) {
+                       f.Load(settings);
+                       f.cboChoices = "NC";
+                     },
+                     [](frmOptions& f) { return f.cboChoices == "NC"; });
+    else if (row[0] == "frmListings")
+      actual = press(frmListings(), [](frmListings& f) { f.AddItem("FY3210"); },
+                     [](frmListings& f) { return f.lstChoices.size() == 1; });
+    else if (row[0] == "dlgTypeControl")
+      actual = press(dlgTypeControl(), [](dlgTypeControl&) {}, [](dlgTypeControl& f) { return f.TypeCode() == "X-0-0"; });
+    else
+      actual = press(dlgLatLonRad(), [](dlgLatLonRad& f) { f.Text1[0] = "N39"; },
+                     [](dlgLatLonRad& f) { return f.Text1[0] == "N39"; });
     EXPECT_EQ(actual, std::vector<std::string>(row.begin() + 2, row.end())) << row[0] << " key " << key;
   }
 }

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <cstring>
 #include <map>
 #include <set>
 #include <filesystem>
@@ -82,23 +81,14 @@ TEST(Replacement, TownLinesAndTheirMerge) {
 // A read-only dataset is refused in the command's words where it has a test; a dataset with LF
 // line ends by every command.
 TEST(Replacement, RefusalsBeforeAnything) {
-  const char* const cases[][4] = {
-      {"county", "readonly", "C/Update from Internet/.dat file is read-only"},
-      {"bypid", "readonly", "C/Update from Internet/File is read-only"},
-      {"cors", "readonly", "C/Update from Internet/File is read-only"},
-      {"radius", "readonly", ""},
-      {"project", "readonly", ""},
-      {"radius", "lf", "-/Line Ends/"},
-      {"bypid", "lf", "-/Line Ends/"},
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : ReadRows("web/refusals.txt", 7, '|')) {
     TempFolder folder;
     FakePlatform fake;
-    const std::string path = folder.Write("d.dat", std::string(c[1]) == "lf" ? "1      a\n x\n" : "1      a\r\n");
-    if (std::string(c[1]) == "readonly") chmod(path.c_str(), 0444);
-    EXPECT_EQ(RefusedForReplacement(CommandNamed(c[0]), path, fake.ui), *c[2] != '\0') << c[0] << " " << c[1];
+    const std::string path = folder.Write("d.dat", c[1] == "lf" ? "1      a\n x\n" : "1      a\r\n");
+    if (c[1] == "readonly") chmod(path.c_str(), 0444);
+    EXPECT_EQ(RefusedForReplacement(CommandNamed(c[0]), path, fake.ui), !c[2].empty()) << c[0] << " " << c[1];
     const std::string shown = fake.ui.messages.empty() ? "" : Describe(fake.ui.messages[0]);
-    EXPECT_EQ(shown.substr(0, std::strlen(c[2])), c[2]) << c[0] << " " << c[1];
+    EXPECT_EQ(shown.substr(0, c[2].size()), c[2]) << c[0] << " " << c[1];
   }
 }
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
-#include <tuple>
 
 #include "fakes/fakes.hpp"
 #include "fakes/test_rows.hpp"
@@ -81,38 +80,28 @@ TEST(WebTransfers, ClassifyEveryAnswerAsTheirTableSays) {
 }
 
 TEST(GetPidBatches, AsksInBatchesOfAHundredUpToAThousand) {
-  struct Batches {
-    int pids;
-    std::size_t requests;
-    const char* lastQuery;  // of the last request
-    const char* lblInfo;
-  };
-  const Batches cases[] = {
-      {1, 1, "1=AB0001", ""},
-      {100, 1, "", ""},
-      {101, 2, "1=AB0101", " 100 downloaded so far..."},
-      {1001, 10, "", " 1000 downloaded so far..."},
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : benchlog::testing::ReadRows("web/pid_batches.txt", 4, '|')) {
     Web web;
-    for (std::size_t i = 0; i < c.requests; ++i) web.fake.http.answers.push_back("<" + std::to_string(i) + ">");
-    std::string response, errMsg;
-    GetPidBatches(web.fake.platform, Pids(c.pids), response, errMsg);
-    EXPECT_EQ(errMsg, "") << c.pids;
-    ASSERT_EQ(web.fake.http.requests.size(), c.requests) << c.pids;
-    const std::string first = web.fake.http.requests.front().url;
-    EXPECT_EQ(first.rfind(std::string(kPids) + "1=AB0001", 0), 0u) << c.pids;
-    const std::string last = web.fake.http.requests.back().url;
-    if (*c.lastQuery) {
-      EXPECT_EQ(last, std::string(kPids) + c.lastQuery) << c.pids;
-    } else {
-      EXPECT_NE(last.find("&100=AB"), std::string::npos) << c.pids;
-    }
-    EXPECT_EQ(web.fake.http.requests.back().url.find("AB1001"), std::string::npos) << "never asked for";
-    EXPECT_EQ(web.fake.progress.max, c.pids);
-    EXPECT_EQ(web.fake.progress.lblInfo, c.lblInfo) << c.pids;
+    const std::size_t requests = std::stoul(c[1]);
     std::string all;
-    for (std::size_t i = 0; i < c.requests; ++i) all += "<" + std::to_string(i) + ">";
+    for (std::size_t i = 0; i < requests; ++i) {
+      web.fake.http.answers.push_back("<" + std::to_string(i) + ">");
+      all += web.fake.http.answers.back();
+    }
+    std::string response, errMsg;
+    GetPidBatches(web.fake.platform, Pids(std::stoi(c[0])), response, errMsg);
+    EXPECT_EQ(errMsg, "") << c[0];
+    ASSERT_EQ(web.fake.http.requests.size(), requests) << c[0];
+    EXPECT_EQ(web.fake.http.requests.front().url.rfind(std::string(kPids) + "1=AB0001", 0), 0u) << c[0];
+    const std::string last = web.fake.http.requests.back().url;
+    if (!c[2].empty()) {
+      EXPECT_EQ(last, std::string(kPids) + c[2]) << c[0];
+    } else {
+      EXPECT_NE(last.find("&100=AB"), std::string::npos) << c[0];
+    }
+    EXPECT_EQ(last.find("AB1001"), std::string::npos) << "never asked for";
+    EXPECT_EQ(web.fake.progress.max, std::stoi(c[0]));
+    EXPECT_EQ(web.fake.progress.lblInfo, c[3]) << c[0];
     EXPECT_EQ(response, all) << "the batches follow each other with nothing between";
   }
 }
@@ -154,22 +143,12 @@ TEST(FrmLogin, RemembersThePasswordOnlyWhenTicked) {
 }
 
 TEST(ServiceAddress, SettingsGiveTheUrlAndTheWaits) {
-  const std::tuple<const char*, const char*, long> cases[] = {
-      // address setting (nullptr: none), request time-out setting, expected time-out in ms
-      {nullptr, nullptr, 60000},
-      {"http://mirror.example/oco/", "0.25", 250},
-      {"   ", "abc", 60000},
-      {"https://oco.example//", "-1", 60000},
-  };
-  const char* urls[] = {"http://127.0.0.1:8642/cgi-bin/x?1=A", "http://mirror.example/oco/cgi-bin/x?1=A",
-                        "http://127.0.0.1:8642/cgi-bin/x?1=A", "https://oco.example/cgi-bin/x?1=A"};
-  int i = 0;
-  for (const auto& [address, timeout, ms] : cases) {
+  for (const auto& c : benchlog::testing::ReadRows("web/service_settings.txt", 4, '|')) {
     benchlog::testing::MemorySettings settings;
-    if (address) settings.SaveSetting("Settings", "ServiceAddress", address);
-    if (timeout) settings.SaveSetting("Settings", "RequestTimeout", timeout);
-    EXPECT_EQ(ServiceUrl(settings, "/cgi-bin/x?1=A"), urls[i++]);
-    EXPECT_EQ(RequestTimeout(settings).count(), ms);
+    if (c[0] != "-") settings.SaveSetting("Settings", "ServiceAddress", c[0]);
+    if (c[1] != "-") settings.SaveSetting("Settings", "RequestTimeout", c[1]);
+    EXPECT_EQ(ServiceUrl(settings, "/cgi-bin/x?1=A"), c[2]) << c[0];
+    EXPECT_EQ(RequestTimeout(settings).count(), std::stol(c[3])) << c[1];
     EXPECT_EQ(RetryWait(settings).count(), 5000);
   }
 }
