@@ -9,18 +9,12 @@
 #include "geodesy/angles.hpp"
 #include "geodesy/transverse_mercator.hpp"
 #include "geodesy/utm_zone.hpp"
+#include "session/index_extent.hpp"
 #include "session/index_record.hpp"
 #include "support_files/towns_file.hpp"
 
 namespace benchlog {
 namespace {
-
-// Degrees + minutes / 60 + seconds / 3600 from a record's columns, as the extent reads them.
-double RecordDegrees(std::string_view record, std::size_t degrees, std::size_t degreeWidth) {
-  const std::size_t minutes = degrees + degreeWidth + 1;
-  return Val(Mid(record, degrees, degreeWidth)) + Val(Mid(record, minutes, 2)) / 60 +
-         Val(Mid(record, minutes + 3, 8)) / 3600;
-}
 
 void Project(const Ellipsoid& ellipsoid, const std::string& zoneLine, double latitudeDegrees,
              double longitudeDegrees, double& north, double& east) {

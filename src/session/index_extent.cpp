@@ -8,13 +8,6 @@
 namespace benchlog {
 namespace {
 
-// Degrees + minutes / 60 + seconds / 3600 from the record's columns.
-double Degrees(std::string_view record, std::size_t degrees, std::size_t degreeWidth) {
-  const std::size_t minutes = degrees + degreeWidth + 1;
-  return Val(Mid(record, degrees, degreeWidth)) + Val(Mid(record, minutes, 2)) / 60 +
-         Val(Mid(record, minutes + 3, 8)) / 3600;
-}
-
 void Widen(double value, double& low, double& high) {
   if (value == 0) return;
   if (value < low) low = value;
@@ -23,11 +16,17 @@ void Widen(double value, double& low, double& high) {
 
 }  // namespace
 
+double RecordDegrees(std::string_view record, std::size_t degrees, std::size_t degreeWidth) {
+  const std::size_t minutes = degrees + degreeWidth + 1;
+  return Val(Mid(record, degrees, degreeWidth)) + Val(Mid(record, minutes, 2)) / 60 +
+         Val(Mid(record, minutes + 3, 8)) / 3600;
+}
+
 IndexExtentDegrees IndexExtent(const MarkIndex& markIndex) {
   IndexExtentDegrees extent;
   for (const auto& record : markIndex.Elements()) {
-    Widen(Degrees(record, 12, 2), extent.minLatitude, extent.maxLatitude);
-    Widen(Degrees(record, 27, 3), extent.minLongitude, extent.maxLongitude);
+    Widen(RecordDegrees(record, 12, 2), extent.minLatitude, extent.maxLatitude);
+    Widen(RecordDegrees(record, 27, 3), extent.minLongitude, extent.maxLongitude);
   }
   return extent;
 }

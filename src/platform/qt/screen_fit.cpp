@@ -32,6 +32,16 @@ void PlaceOnScreen(QWidget* window, const QRect& wanted) {
   window->move(static_cast<int>(fitted.left), static_cast<int>(fitted.top));
 }
 
+void TakePlacement(const QWidget& window, WindowPlacement& p) {
+  p.state = window.isMaximized() ? kMaximized : window.isMinimized() ? kMinimized : kNormal;
+  if (p.state != kNormal) return;
+  const QRect frame = window.frameGeometry();
+  p.top = frame.top() * kTwipsPerPixel;
+  p.left = frame.left() * kTwipsPerPixel;
+  p.height = window.height() * kTwipsPerPixel;
+  p.width = window.width() * kTwipsPerPixel;
+}
+
 void CentreOnScreen(QWidget* window, const QSize& size) {
   QScreen* screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen();
   window->resize(size);

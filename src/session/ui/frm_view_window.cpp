@@ -178,7 +178,8 @@ void FrmViewWindow::Clicked() {
 }
 
 void FrmViewWindow::CloseView() {
-  TakePlacement();  // hidden, not unloaded: the next show starts from the state the user left
+  // Hidden, not unloaded: the next show starts from the state the user left.
+  TakePlacement(*this, model_.placement);
   model_.Close();
   ShowState();
   hide();
@@ -189,7 +190,7 @@ void FrmViewWindow::reject() { CloseView(); }
 // The close box unloads the window: its placement is saved, and the next show reads it again.
 void FrmViewWindow::closeEvent(QCloseEvent* e) {
   if (model_.platform) {
-    TakePlacement();
+    TakePlacement(*this, model_.placement);
     model_.Unload(model_.platform->settings);
     placed_ = false;
   } else {
@@ -221,17 +222,6 @@ void FrmViewWindow::ApplyState() {
   if (model_.placement.state == kMaximized) setWindowState(kept | Qt::WindowMaximized);
   else if (model_.placement.state == kMinimized) setWindowState(kept | Qt::WindowMinimized);
   else setWindowState(kept);
-}
-
-void FrmViewWindow::TakePlacement() {
-  WindowPlacement& p = model_.placement;
-  p.state = isMaximized() ? kMaximized : isMinimized() ? kMinimized : kNormal;
-  if (p.state != kNormal) return;
-  const QRect frame = frameGeometry();
-  p.top = frame.top() * kTwipsPerPixel;
-  p.left = frame.left() * kTwipsPerPixel;
-  p.height = height() * kTwipsPerPixel;
-  p.width = width() * kTwipsPerPixel;
 }
 
 }  // namespace benchlog::qt

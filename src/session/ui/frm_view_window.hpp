@@ -47,7 +47,6 @@ class FrmViewWindow : public ModelDialog {
   void Clicked();
   void TakeCaret();
   void ApplyState();
-  void TakePlacement();
   std::string HostDatFilePath() const;
   QString ShownText(int position, int length) const;  // as the widget holds it
   std::string CheckPicture(const std::string& path);

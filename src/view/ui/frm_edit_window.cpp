@@ -225,18 +225,8 @@ void FrmEditWindow::Undo() {
   if (model_.txtEdit != before) ShowText();
 }
 
-void FrmEditWindow::TakePlacement() {
-  WindowPlacement& p = model_.placement;
-  if (isMaximized() || isMinimized()) return;
-  const QRect frame = frameGeometry();
-  p.top = frame.top() * kTwipsPerPixel;
-  p.left = frame.left() * kTwipsPerPixel;
-  p.height = height() * kTwipsPerPixel;
-  p.width = width() * kTwipsPerPixel;
-}
-
 void FrmEditWindow::CloseEditor() {
-  TakePlacement();
+  TakePlacement(*this, model_.placement);
   if (model_.platform) model_.CloseEditor(model_.platform->ui, model_.platform->settings);
   hide();
   done(Accepted);

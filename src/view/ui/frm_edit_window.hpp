@@ -38,7 +38,6 @@ class FrmEditWindow : public ModelDialog {
   void ShowSelection();
   void TakeSelection();
   void SendKey(int key);
-  void TakePlacement();
   void CloseEditor();
   bool TypedKey(QKeyEvent* key);
 
