@@ -143,6 +143,7 @@ void frmPlot::Draw(const Session& session, Platform& platform) {
   const double right = left + width, bottom = top - height;
   canvas.SetScale(left, top, right, bottom);
   canvas.Clear();
+  strayLines.clear();
   canvas.fontName = FontName;
   const SymbolSize size = SymbolSizeFor(height);
   canvas.mode = DrawMode::Copy;

@@ -3,7 +3,9 @@
 // spacing), the options of its Options menu, the plot store, and the canvas that a drawing fills
 // with primitives in UTM metres. The Qt window paints the canvas and forwards the menu commands.
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/dialog_model.hpp"
 #include "platform/settings_store.hpp"
@@ -18,6 +20,8 @@ struct Session;
 struct Platform;
 
 inline constexpr const char* kPlotSection = "frmPlot";
+
+enum class MouseButton { Left, Right };
 
 class frmPlot : public DialogModel {
  public:
@@ -43,8 +47,25 @@ class frmPlot : public DialogModel {
   WindowPlacement placement{kNormal, 0, 0, 7200, 10800};  // twips
   bool loaded = false;  // opened and not yet closed: the next opening reads the settings again
 
+  // Interaction state. Positions are UTM metres; point numbers count from 1, so 0 means none.
+  bool BandActive = false;  // a left press is under way and its rubber band is shown
+  float BandX1 = 0, BandX2 = 0, BandY1 = 0, BandY2 = 0;
+  bool InverseMode = false;  // a measurement is running
+  std::int16_t FromPoint = 0, ToPoint = 0;
+  float LineX = 0, LineY = 0;  // the loose end of the rubber line; 0 for none
+  std::int16_t PickedPoint = 0;
+  std::vector<std::int16_t> SamePlace;  // the marks exactly where the picked one lies, itself included
+  bool crossPointer = false;            // the mouse pointer is the cross of a measurement
+  // Rubber lines that a right click left behind; they go at the next drawing.
+  std::vector<PlotPrimitive> strayLines;
+
+  // What the window does at once while an operation runs: show the overlays again (a message box
+  // is about to stand over them), sound the beep.
+  std::function<void()> onOverlayChanged;
+  std::function<void()> onBeep;
+
   // Where the window's own commands reach the rest of the program; set by the Plot command.
-  const Session* session = nullptr;
+  Session* session = nullptr;
   Platform* platform = nullptr;
 
   // Opening: ZoomLevel 0, the options, the font and the saved geometry from section "frmPlot".
@@ -71,12 +92,49 @@ class frmPlot : public DialogModel {
   // The font dialog, opened with the window's font; the choice is kept and saved.
   void mnuOptFont(Ui& ui, SettingsStore& settings);
 
+  // The mouse, at (x, y) in metres. A move shows the position and the zoom level in the caption
+  // and drags the rubber band or the rubber line. A left press starts a band, or picks the second
+  // mark of a measurement and shows the distance. A left release zooms to the band, or centres
+  // the view on a click. A right press ends a measurement and picks the mark for the popup menu,
+  // which the window then opens.
+  void MouseMove(float x, float y);
+  void MouseDown(MouseButton button, float x, float y);
+  void MouseUp(MouseButton button, float x, float y);
+  // What the window paints over the plot: the band, the rubber line, the line being measured and
+  // stray lines, all in invert mode. They never become part of the canvas.
+  std::vector<PlotPrimitive> Overlay() const;
+
+  // One step on the ladder, about the same centre; never out past the level that holds all marks.
+  void mnuZoomIn();
+  void mnuZoomOut();
+  // Asks for a point number, PID or designation and centres the view on that mark at level 8.
+  void mnuFind();
+  // The popup menu of the picked mark: its photo, the Descriptions of all marks on its spot in the
+  // viewer, a measurement from it, and its deletion from the dataset.
+  void mnuPhoto();
+  void mnuDSht();
+  void mnuInverse();
+  void mnuDelete();
+  // The program's help.
+  void mnuHelp();
+
  private:
   bool FreshLayout(const std::string& appPath, Ui& ui);
   void Draw(const Session& session, Platform& platform);
   void SetCaption(double width, double height);
   void DrawTowns(int symbolSize);
+  void Pick(float x, float y, std::int16_t& point);
+  void ZoomToBand();
+  void Measure(float x, float y);
+  void Redraw();
+  void Changed() const;
+  void DeleteAndReindex(const std::string& pid);
+
+  bool measuring_ = false;  // the two marks of a measurement are joined while its distance shows
 };
+
+// The text of a measured distance in metres: metres and feet below 500 m, else km and miles.
+std::string MeasureText(double distance);
 
 // The session's plot window.
 frmPlot& PlotForm(Session& session);

@@ -21,6 +21,7 @@ PlotPrimitive Figure(PrimitiveKind kind, double x1, double y1, double x2, double
 void PlotCanvas::Add(PlotPrimitive primitive) {
   primitive.mode = mode;
   primitives_.push_back(std::move(primitive));
+  ++generation_;
 }
 
 void PlotCanvas::PSet(double x, double y) {

@@ -43,10 +43,18 @@ struct PlotScale {
 
 class PlotCanvas {
  public:
-  void SetScale(double left, double top, double right, double bottom) { scale_ = {left, top, right, bottom}; }
+  void SetScale(double left, double top, double right, double bottom) {
+    scale_ = {left, top, right, bottom};
+    ++generation_;
+  }
   const PlotScale& Scale() const { return scale_; }
-  void Clear() { primitives_.clear(); }
+  void Clear() {
+    primitives_.clear();
+    ++generation_;
+  }
   const std::vector<PlotPrimitive>& Primitives() const { return primitives_; }
+  // Changes at every change of the scale or the list, so a window can keep a painted copy.
+  std::uint64_t Generation() const { return generation_; }
 
   // Pen state, kept between drawings.
   std::uint32_t foreColor = kColorBlack;
@@ -72,6 +80,7 @@ class PlotCanvas {
   void Add(PlotPrimitive primitive);
   PlotScale scale_;
   std::vector<PlotPrimitive> primitives_;
+  std::uint64_t generation_ = 0;
 };
 
 }  // namespace benchlog

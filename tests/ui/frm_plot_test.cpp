@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QImage>
+#include <QMenu>
 #include <QTest>
 
 #include "fakes/fakes.hpp"
@@ -84,6 +85,53 @@ class FrmPlotTest : public QObject {
     window.Action("mnuPlotCities")->trigger();
     QVERIFY(model.mnuPlotCities);
     QCOMPARE(QString::fromStdString(fake.settings.GetSetting("frmPlot", "PlotCities", "")), QString("True"));
+  }
+
+  // The canvas shows 1000 x 750 m with two marks on its middle line; the mouse picks, drags a band
+  // that is painted over the drawing and gone after the release, and opens the popup.
+  void MouseActsReachTheModel() {
+    testing::FakePlatform fake;
+    frmPlot model;
+    model.platform = &fake.platform;
+    model.store.FirstPoint = 1, model.store.LastPoint = 2;
+    model.store.PtNorth[1] = model.store.PtNorth[2] = 4000375;
+    model.store.PtEast[1] = 600250, model.store.PtEast[2] = 600750;
+    model.ZoomLevel = model.BaseLevel = 5;
+    model.canvas.SetScale(600000, 4000750, 601000, 4000000);
+    qt::FrmPlotWindow window(model);
+    window.LoadFromModel();
+    window.resize(600, 500);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QWidget* canvas = window.Canvas();
+    auto at = [&](double east, double north) {
+      return QPoint(int((east - 600000) / 1000 * canvas->width()), int((4000750 - north) / 750 * canvas->height()));
+    };
+    const QPoint corner = at(600100, 4000600), far = at(600400, 4000100);
+    const QImage before = canvas->grab().toImage();
+    QCOMPARE(before.pixelColor(far.x(), corner.y()), QColor(Qt::white));
+
+    QTest::mousePress(canvas, Qt::LeftButton, {}, corner);
+    QTest::mouseMove(canvas, far);
+    QVERIFY(model.BandActive);
+    QVERIFY(window.windowTitle().startsWith("UTM  North=4,000,"));
+    QVERIFY(window.windowTitle().endsWith("  Zoom factor= 5"));
+    const QImage banded = canvas->grab().toImage();
+    QVERIFY(banded.pixelColor(far.x(), corner.y()).value() < 128);  // the band's top right corner, inverted
+    QTest::mouseRelease(canvas, Qt::LeftButton, {}, far);
+    QVERIFY(!model.BandActive);
+    QVERIFY(std::abs(model.CenterEast - 600250) < 5);
+    QVERIFY(std::abs(model.CenterNorth - 4000350) < 5);
+    QCOMPARE(canvas->grab().toImage().pixelColor(far.x(), corner.y()), QColor(Qt::white));
+
+    QTest::mousePress(canvas, Qt::RightButton, {}, at(600700, 4000400));
+    QCOMPARE(model.PickedPoint, std::int16_t(2));
+    QVERIFY(window.Popup()->isVisible());
+    window.Action("mnuInverse")->trigger();
+    window.Popup()->hide();
+    QVERIFY(model.InverseMode);
+    QCOMPARE(model.FromPoint, std::int16_t(2));
+    QCOMPARE(canvas->cursor().shape(), Qt::CrossCursor);
   }
 };
 

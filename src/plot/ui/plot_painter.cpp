@@ -111,7 +111,9 @@ class Painter {
 
   // Points, boxes and level or plumb lines lie on pixel centres and are crisp as they are; slanted
   // lines, circles and texts are smoothed.
+  // Inverted figures stay sharp, since a smoothed edge would not invert cleanly.
   static bool NeedsSmoothing(const std::vector<PlotPrimitive>& list, std::size_t from, std::size_t to) {
+    if (list[from].mode == DrawMode::Invert) return false;
     for (std::size_t i = from; i < to; ++i) {
       const PlotPrimitive& p = list[i];
       if (p.kind == PrimitiveKind::Circle || p.kind == PrimitiveKind::Text) return true;
@@ -221,6 +223,18 @@ void PaintPlot(QPainter& painter, const PlotCanvas& canvas, const QRectF& target
   painter.setPen(QPen(ColorOf(kColorBlack), 0));  // cosmetic: one pixel wide on every device
   painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
   Painter(painter, canvas, target).Paint(canvas.Primitives());
+  painter.restore();
+}
+
+void PaintOverlay(QPainter& painter, const PlotCanvas& canvas, const std::vector<PlotPrimitive>& figures,
+                  const QRectF& target) {
+  painter.save();
+  painter.setClipRect(target);
+  painter.setRenderHint(QPainter::Antialiasing, true);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(ColorOf(kColorBlack), 0));
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+  Painter(painter, canvas, target).Paint(figures);
   painter.restore();
 }
 
