@@ -209,21 +209,10 @@ void FrmPlotWindow::PrintPlot() {
   painter.end();
 }
 
-void FrmPlotWindow::TakePlacement() {
-  WindowPlacement& p = model_.placement;
-  p.state = isMaximized() ? kMaximized : isMinimized() ? kMinimized : kNormal;
-  if (p.state != kNormal) return;
-  const QRect frame = frameGeometry();
-  p.top = frame.top() * kTwipsPerPixel;
-  p.left = frame.left() * kTwipsPerPixel;
-  p.height = height() * kTwipsPerPixel;
-  p.width = width() * kTwipsPerPixel;
-}
-
 // Closing unloads the window: its placement is saved, and the next Plot command reads the
 // settings again and lays the view out afresh.
 void FrmPlotWindow::closeEvent(QCloseEvent* e) {
-  TakePlacement();
+  TakePlacement(*this, model_.placement);
   if (model_.platform) model_.Unload(model_.platform->settings);
   placed_ = false;
   e->accept();

@@ -70,7 +70,6 @@ class FrmPlotWindow : public ModelDialog {
   void Run(const std::function<void()>& operation);
   QAction* AddToggle(QMenu* menu, const char* name, const char* text, void (frmPlot::*toggle)(SettingsStore&));
   void ShowChecks();
-  void TakePlacement();
 
   frmPlot& model_;
   PlotCanvasWidget* canvas_ = nullptr;
