@@ -97,6 +97,7 @@ void RegisterHandheldCommands(CommandTable& table) {
   table.Register("mnuConvgpxToHH", mnuConvgpxToHH);
   table.Register("mnuConvertGarminToHH", mnuConvertGarminToHH);
   table.Register("mnuLatLoninTxt", mnuLatLoninTxt);
+  table.Register("mnuHHDiscrep", mnuHHDiscrep);
 }
 
 void RegisterReportCommands(CommandTable& table) {
@@ -136,6 +137,9 @@ CommandTable BuildCommandTable() {
   RegisterPlotCommands(table);
   for (const auto& name : table.Names())
     if (!InMenuTree(name)) throw std::logic_error("A command is registered as \"" + name + "\", which the menu lacks.");
+  for (const auto& entry : MainMenuTree())
+    if (entry.kind == MenuKind::Command && !table.Has(entry.name))
+      throw std::logic_error("The menu entry \"" + entry.name + "\" has no command.");
   return table;
 }
 

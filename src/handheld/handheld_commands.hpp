@@ -15,5 +15,8 @@ void mnuConvertGarminToHH(Session& session, Platform& platform);
 // "Find Goegraphic Pos in Text": positions stated in the Descriptions' text near their published
 // positions, to an HH file and a report.
 void mnuLatLoninTxt(Session& session, Platform& platform);
+// "HH Discrepancies via www": each record of an HH file against the agency's database, through the
+// service, to a report shown in the editor.
+void mnuHHDiscrep(Session& session, Platform& platform);
 
 }  // namespace benchlog

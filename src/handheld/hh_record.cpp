@@ -1,5 +1,6 @@
 #include "handheld/hh_record.hpp"
 
+#include "common/number_text.hpp"
 #include "common/paths.hpp"
 #include "common/text.hpp"
 
@@ -21,5 +22,10 @@ std::vector<std::string> HhFields(std::string_view line) { return Split(line, "|
 std::string HhPathFor(std::string_view inputPath) { return WithoutExtension(inputPath) + "_hh.txt"; }
 
 std::string HhQuality(std::string_view technique) { return technique == "X" ? "HH1" : "HH2"; }
+
+bool IsPid(std::string_view text) {
+  const auto capital = [](char c) { return c >= 'A' && c <= 'Z'; };
+  return text.size() == 6 && capital(text[0]) && capital(text[1]) && IsNumeric(text.substr(2));
+}
 
 }  // namespace benchlog

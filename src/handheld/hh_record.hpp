@@ -33,4 +33,7 @@ std::string HhPathFor(std::string_view inputPath);
 // The quality a technique gives: "X" is "HH1", anything else "HH2".
 std::string HhQuality(std::string_view technique);
 
+// True for a mark's permanent identifier: 6 characters, two capitals and a number ("AA1234").
+bool IsPid(std::string_view text);
+
 }  // namespace benchlog

@@ -1,5 +1,7 @@
 #include "session/command_table.hpp"
 
+#include <stdexcept>
+
 #include "common/runtime_failure.hpp"
 
 namespace benchlog {
@@ -16,10 +18,7 @@ std::vector<std::string> CommandTable::Names() const {
 
 void CommandTable::Run(const std::string& name, Session& session, Platform& platform) const {
   const auto found = commands_.find(name);
-  if (found == commands_.end()) {
-    platform.ui.MsgBox(kNotAvailableYet);
-    return;
-  }
+  if (found == commands_.end()) throw std::logic_error("No command is registered as \"" + name + "\".");
   try {
     session.supportFiles.Refresh(platform.paths.supportPath, platform.clock.Now());
     found->second(session, platform);

@@ -14,14 +14,12 @@ namespace benchlog {
 
 using Command = std::function<void(Session&, Platform&)>;
 
-inline constexpr const char* kNotAvailableYet = "This command is not available yet.";
-
 class CommandTable {
  public:
   void Register(const std::string& name, Command command);
   bool Has(const std::string& name) const;
   std::vector<std::string> Names() const;
-  // Runs the named command; a name with no command yet shows kNotAvailableYet.
+  // Runs the named command; a name that has none is a wiring fault (std::logic_error).
   void Run(const std::string& name, Session& session, Platform& platform) const;
 
  private:

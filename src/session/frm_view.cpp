@@ -1,10 +1,11 @@
 #include "session/frm_view.hpp"
 
 #include <charconv>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
-#include "session/command_table.hpp"
+#include "platform/platform.hpp"
 #include "session/session.hpp"
 #include "common/files.hpp"
 #include "common/runtime_failure.hpp"
@@ -148,10 +149,7 @@ void SetViewerPrint(ViewerPrint print) { InstalledViewerPrint() = std::move(prin
 
 void frmView::mnuPrintDesc(Ui& ui) {
   const ViewerPrint& print = InstalledViewerPrint();
-  if (!print || !session || !platform) {
-    ui.MsgBox(kNotAvailableYet);
-    return;
-  }
+  if (!print || !session || !platform) throw std::logic_error("The viewer's printing is not set up");
   try {
     print(*this, *session, *platform);
   } catch (const RuntimeFailure& failure) {

@@ -82,7 +82,7 @@ class frmView : public DialogModel {
   void mnuFileSaveAs(Ui& ui);
   // Prints what the viewer shows, through the handler the printing layer installed with
   // SetViewerPrint; a cancelled printer dialog ends it silently, another failure shows its text.
-  // Without a handler (or outside the program's session) it says the command is not available.
+  // A viewer without a handler, or not made by ViewForm, is a wiring fault: std::logic_error.
   void mnuPrintDesc(Ui& ui);
   // Esc and Exit: the text again, the picture cleared, Tag empty. The window then hides but keeps
   // its state.

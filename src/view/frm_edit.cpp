@@ -8,8 +8,8 @@
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "platform/platform.hpp"
-#include "session/command_table.hpp"
 #include "session/session.hpp"
+#include "view/print_array.hpp"
 
 namespace benchlog {
 namespace {
@@ -31,6 +31,19 @@ std::string ReplaceOccurrences(const std::string& text, const std::string& find,
   const std::size_t at = out.find(find);
   if (at != std::string::npos) out.replace(at, find.size(), with);
   return out;
+}
+
+// The text as the printer takes it in one piece: line under line, a new page when one is full. The
+// line end behind the last line starts no line of its own.
+PrintDocument TextPages(const std::string& text) {
+  PrintDocument document = PageSetupForWidth(80);
+  std::vector<std::string> lines = Split(text, kCrLf);
+  if (lines.back().empty()) lines.pop_back();
+  const auto perPage = static_cast<std::size_t>(document.linesPerPage);
+  for (std::size_t first = 0; first < lines.size(); first += perPage)
+    document.pages.emplace_back(lines.begin() + static_cast<std::ptrdiff_t>(first),
+                                lines.begin() + static_cast<std::ptrdiff_t>(std::min(first + perPage, lines.size())));
+  return document;
 }
 
 }  // namespace
@@ -161,7 +174,15 @@ void frmEdit::mnuPaste(const std::string& clipboard) {
   ReplaceSelection(clipboard);
 }
 
-void frmEdit::mnuPrint(Ui& ui) { ui.MsgBox(kNotAvailableYet); }
+void frmEdit::mnuPrint(Platform& platform) {
+  try {
+    ChoosePrinterOrCancel(platform);
+    PlatformPrinter(platform).PrintText(TextPages(txtEdit));
+    platform.ui.MsgBox("Printing complete");
+  } catch (const RuntimeFailure& failure) {
+    if (failure.number != kCancelError) platform.ui.MsgBox(failure.description);
+  }
+}
 
 void frmEdit::CloseEditor(Ui& ui, SettingsStore& settings) {
   SaveGeometry(settings);

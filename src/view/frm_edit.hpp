@@ -83,8 +83,9 @@ class frmEdit : public DialogModel {
   void mnuPaste(const std::string& clipboard);
   void mnuHome() { Select(0, 0); }
   void mnuEnd() { Select(txtEdit.size(), 0); }
-  // Printing the editor's text is not there yet: says so.
-  void mnuPrint(Ui& ui);
+  // The printer dialog, then the text in Courier New size 10 on portrait pages of 66 lines, and
+  // "Printing complete". A cancelled dialog prints nothing; another failure shows its text.
+  void mnuPrint(Platform& platform);
 
   // Close, Exit and the close box: the geometry is saved, and an unlocked text with unsaved
   // changes asks "Save Changes?"; Yes saves it.

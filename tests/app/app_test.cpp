@@ -177,9 +177,9 @@ TEST(RecentFiles, GiveTheListsOfTheCaseTable) {
   }
 }
 
-// An unbuilt command says so in a plain box; failures are trapped at the command level, and a menu
-// name the tree does not declare fails the command that uses it.
-TEST_F(CommandsTest, UnbuiltCommandsAndFailuresEndInABox) {
+// Failures are trapped at the command level in a plain box, and a menu name the tree does not
+// declare fails the command that uses it; a name with no command is a wiring fault.
+TEST_F(CommandsTest, FailuresEndInABoxAndAnUnknownCommandIsAFault) {
   CommandTable commands;
   commands.Register("cancelled", [](Session&, Platform&) { throw CancelError(); });
   commands.Register("failed", [](Session&, Platform& p) {
@@ -189,14 +189,14 @@ TEST_F(CommandsTest, UnbuiltCommandsAndFailuresEndInABox) {
   commands.Register("misspelt", [](Session& s, Platform&) { s.menu["mnuViewHCL"].enabled = true; });
   commands.Run("cancelled", session, fake.platform);
   EXPECT_TRUE(fake.ui.messages.empty());
-  commands.Run("mnuPlot", session, fake.platform);
+  EXPECT_THROW(commands.Run("mnuPlot", session, fake.platform), std::logic_error);
+  commands.Run("failed", session, fake.platform);
   ASSERT_EQ(fake.ui.messages.size(), 1u);
   EXPECT_EQ(fake.ui.messages[0].icon, MsgIcon::None);
   EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::Ok);
-  commands.Run("failed", session, fake.platform);
   EXPECT_FALSE(fake.progress.Visible());
   commands.Run("misspelt", session, fake.platform);
-  EXPECT_EQ(fake.ui.MessageTexts(), (std::vector<std::string>{"This command is not available yet.", "Subscript out of range",
+  EXPECT_EQ(fake.ui.MessageTexts(), (std::vector<std::string>{"Subscript out of range",
                                                                "The menu has no entry named \"mnuViewHCL\"."}));
   EXPECT_FALSE(session.menu.Has("mnuViewHCL"));
   EXPECT_TRUE(session.menu.Has("mnuViewHcl"));

@@ -24,7 +24,7 @@ class OcoSimTest : public ::testing::Test {
 std::unique_ptr<OcoSimProcess> OcoSimTest::sim_;
 
 // The Descriptions, CORS and town paths are checked through the commands that use them
-// (replacement_e2e_test.cpp); the discrepancy path has no command yet.
+// (replacement_e2e_test.cpp, hh_discrepancies_test.cpp).
 TEST_F(OcoSimTest, OtherPathsAnswerInTheirFormats) {
   const std::string known = Get("/CORS-Proxy/neighbors41/discrep_for_one?PID=FY3210");
   for (const char* row : {"<TR><TD>DESIGNATION</TD><TD>HILLSBORO</TD></TR>", "<TR><TD>NAD 83 LAT</TD><TD>N360342.56888</TD></TR>",

@@ -203,8 +203,8 @@ class FrmMainTest : public QObject {
     QTest::keyClick(&window, Qt::Key_F10);
     QVERIFY(window.Action("mnuLatLoninTxt")->isVisible());
 
-    window.Action("mnuHHDiscrep")->trigger();
-    QCOMPARE(s.fake.ui.MessageTexts(), std::vector<std::string>{kNotAvailableYet});
+    window.Action("mnuEditSA")->trigger();  // the current dataset has no Street Atlas file
+    QCOMPARE(s.fake.ui.MessageTexts(), std::vector<std::string>{"File not found!"});
     s.fake.ui.colorAnswers.push_back(std::uint32_t{0x00FF00});
     window.Action("mnuSetBackColor")->trigger();
     QCOMPARE(window.palette().color(QPalette::Window), QColor(0, 255, 0));

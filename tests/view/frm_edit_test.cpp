@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <tuple>
 
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
@@ -223,6 +224,43 @@ TEST(frmEdit, TheStreetAtlasCommandsOpenTheFileForEditing) {
     EXPECT_EQ(edit.placement.state, kMaximized);
     EXPECT_EQ(edit.placement.height, 8340);  // the defaults, as nothing was saved yet
     EXPECT_EQ(edit.placement.width, 10650);
+  }
+}
+
+// The whole text goes to the printer in Courier New 10 on portrait pages of 66 lines; the line end
+// behind the last line makes no line of its own.
+TEST(frmEdit, PrintPutsTheTextOnPagesOfSixtySixLines) {
+  const struct {
+    bool accept;
+    int lines;
+    const char* end;
+    std::vector<std::size_t> pageLines;  // nothing printed when empty
+    std::vector<std::string> messages;
+  } cases[] = {
+      {true, 67, "\r\n", {66, 1}, {"Printing complete"}},
+      {true, 66, "", {66}, {"Printing complete"}},
+      {false, 3, "\r\n", {}, {}},
+  };
+  for (const auto& c : cases) {
+    FakePlatform fake;
+    fake.printer.accept = {c.accept};
+    frmEdit edit;
+    for (int n = 1; n <= c.lines; ++n) edit.txtEdit += "LINE " + std::to_string(n) + (n < c.lines ? "\r\n" : c.end);
+    edit.mnuPrint(fake.platform);
+    EXPECT_EQ(fake.printer.dialogs, std::vector<std::string>{"Select Printer"});
+    EXPECT_EQ(fake.ui.MessageTexts(), c.messages);
+    if (c.pageLines.empty()) {
+      EXPECT_TRUE(fake.printer.documents.empty());
+      continue;
+    }
+    ASSERT_EQ(fake.printer.documents.size(), 1u);
+    const PrintDocument& printed = fake.printer.documents[0];
+    EXPECT_EQ(std::tuple(printed.fontName, printed.fontSize, printed.orientation),
+              std::tuple("Courier New", 10, PageOrientation::Portrait));
+    std::vector<std::size_t> pageLines;
+    for (const auto& page : printed.pages) pageLines.push_back(page.size());
+    EXPECT_EQ(pageLines, c.pageLines);
+    EXPECT_EQ(printed.pages.back().back(), "LINE " + std::to_string(c.lines));
   }
 }
 

@@ -167,7 +167,7 @@ void FrmEditWindow::Save() {
 }
 
 void FrmEditWindow::Print() {
-  if (model_.platform) model_.mnuPrint(model_.platform->ui);
+  if (model_.platform) model_.mnuPrint(*model_.platform);
 }
 
 void FrmEditWindow::Copy() {
