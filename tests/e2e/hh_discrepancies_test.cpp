@@ -1,19 +1,10 @@
 // HH discrepancies end to end: the command against oco-sim on the sample dataset through the
 // program's Qt transfer. The expected report was worked out by hand from the sample's values of
 // FY3209 (adjusted, five decimals of seconds) and FY0871 (scaled, none).
-#include <gtest/gtest.h>
-
-#include <memory>
-
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "common/text.hpp"
-#include "e2e/sim_get.hpp"
-#include "fakes/fakes.hpp"
-#include "fakes/oco_sim_process.hpp"
-#include "fakes/temp_folder.hpp"
-#include "fakes/test_paths.hpp"
-#include "platform/qt/qt_http_transport.hpp"
+#include "e2e/sim_client.hpp"
 #include "view/frm_edit.hpp"
 #include "web/frm_login.hpp"
 
@@ -22,54 +13,35 @@ namespace {
 
 const std::string kQuery = "GET /CORS-Proxy/neighbors41/discrep_for_one?PID=";
 
-class HhDiscrepanciesTest : public ::testing::Test {
+class HhDiscrepanciesTest : public SampleSimTest {
  protected:
-  static void SetUpTestSuite() { sim_ = std::make_unique<OcoSimProcess>(SampleDataset()); }
-  static void TearDownTestSuite() { sim_.reset(); }
-
-  void SetUp() override {
-    fake_.platform.http = &http_;
-    fake_.settings.SaveSetting("Settings", "ServiceAddress", sim_->BaseUrl());
-    fake_.settings.SaveSetting("Settings", "RetryWait", "0.05");
-    fake_.settings.SaveSetting("Settings", "RequestTimeout", "1");
-    ASSERT_EQ(SimGet(sim_->BaseUrl() + "/sim/reset"), "OK\n");
-  }
-
   // Runs the command on a copy of `hhText`; the editor's caption, lock and text when it was shown.
   std::string Run(const std::string& hhText) {
-    fake_.ui.fileAnswers.push_back(folder_.Write("survey.txt", hhText));
+    fake.ui.fileAnswers.push_back(folder.Write("survey.txt", hhText));
     std::string shown;
-    fake_.ui.modalActions.push_back([&shown](DialogModel& model) {
+    fake.ui.modalActions.push_back([&shown](DialogModel& model) {
       const auto& edit = dynamic_cast<frmEdit&>(model);
       shown = edit.Caption + (edit.Locked ? " (locked)\n" : "\n") + edit.txtEdit;
     });
-    BuildCommandTable().Run("mnuHHDiscrep", session_, fake_.platform);
-    EXPECT_FALSE(fake_.progress.Visible());
-    EXPECT_FALSE(fake_.ui.hourglass);
+    BuildCommandTable().Run("mnuHHDiscrep", session, fake.platform);
+    EXPECT_FALSE(fake.progress.Visible());
+    EXPECT_FALSE(fake.ui.hourglass);
     return shown;
   }
-  static std::string Log() { return SimGet(sim_->BaseUrl() + "/sim/log"); }
-
-  static std::unique_ptr<OcoSimProcess> sim_;
-  TempFolder folder_;
-  FakePlatform fake_;
-  qt::QtHttpTransport http_{fake_.settings};
-  TestSession session_;
 };
-std::unique_ptr<OcoSimProcess> HhDiscrepanciesTest::sim_;
 
 TEST_F(HhDiscrepanciesTest, ReportsEachKindOfDiscrepancyInTheEditor) {
   const std::string expected = ReadWholeFile(TestData("handheld/discrepancies_rpt.expected"));
   EXPECT_EQ(Run(ReadWholeFile(TestData("handheld/discrepancies_hh.txt"))), "HH Script Problems (locked)\n" + expected);
-  EXPECT_EQ(ReadWholeFile(folder_.File("survey.rpt")), expected);
+  EXPECT_EQ(ReadWholeFile(folder.File("survey.rpt")), expected);
   // No request for the lines that are no record.
   std::string asked;
   for (const char* pid : {"FY3209", "FY0871", "FY0871", "FY0871", "ZZ9999", "FY3209"})
     asked += kQuery + pid + " HTTP/1.1\n";
   EXPECT_EQ(Log(), asked);
-  EXPECT_EQ(Describe(fake_.ui.fileDialogs.at(0)), "open|HH Discrepancies|Text Files (*.txt)|*.txt|C:\\");
-  EXPECT_EQ(Describe(fake_.progressHistory.at(0)), "Checking OCO IDB|Please wait...|0/8");
-  EXPECT_TRUE(fake_.ui.messages.empty());
+  EXPECT_EQ(Describe(fake.ui.fileDialogs.at(0)), "open|HH Discrepancies|Text Files (*.txt)|*.txt|C:\\");
+  EXPECT_EQ(Describe(fake.progressHistory.at(0)), "Checking OCO IDB|Please wait...|0/8");
+  EXPECT_TRUE(fake.ui.messages.empty());
 }
 
 // Every failure of the request ends the run with an empty message and no report shown; the report
@@ -89,17 +61,17 @@ TEST_F(HhDiscrepanciesTest, AFailingServiceEndsTheRunWithAnEmptyMessage) {
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.fault) + " x" + std::to_string(c.count));
     SetUp();
-    fake_.ui.messages.clear();
+    fake.ui.messages.clear();
     const std::string fault = "/sim/fault?path=/CORS-Proxy/neighbors41/discrep_for_one&kind=" + std::string(c.fault) +
                               "&count=" + std::to_string(c.count);
-    ASSERT_EQ(SimGet(sim_->BaseUrl() + fault), "OK\n");
+    ASSERT_EQ(SimGet(sim->BaseUrl() + fault), "OK\n");
     if (c.fault == std::string("unauthorized"))
-      fake_.ui.modalActions.push_back([](DialogModel& model) { dynamic_cast<frmLogin&>(model).cmdCancel_Click(); });
+      fake.ui.modalActions.push_back([](DialogModel& model) { dynamic_cast<frmLogin&>(model).cmdCancel_Click(); });
     EXPECT_EQ(Run(hh), "");  // the report is not shown
-    fake_.ui.modalActions.clear();
-    EXPECT_EQ(fake_.ui.MessageTexts(), std::vector<std::string>{""});
+    fake.ui.modalActions.clear();
+    EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{""});
     EXPECT_EQ(Split(Log(), "\n").size() - 1, c.requests);
-    EXPECT_EQ(ReadWholeFile(folder_.File("survey.rpt")), "PID              PROBLEM\r\n\r\nab1234 - Invalid PID\r\n");
+    EXPECT_EQ(ReadWholeFile(folder.File("survey.rpt")), "PID              PROBLEM\r\n\r\nab1234 - Invalid PID\r\n");
   }
 }
 

@@ -1,23 +1,15 @@
 // The county, radius and project commands against oco-sim on the sample dataset: the dialogs played
 // by a script, the queries checked byte for byte in the service's log, the lists and the keep rule's
 // refusals. The lists were read off the sample by hand (ORANGE county, NC, FIPS 135, has 29 marks).
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <filesystem>
 #include <functional>
-#include <memory>
 
 #include "app/command_registry.hpp"
 #include "common/files.hpp"
 #include "dataset/load_dataset_index.hpp"
-#include "e2e/sim_get.hpp"
-#include "platform/qt/qt_http_transport.hpp"
-#include "fakes/fakes.hpp"
-#include "fakes/oco_sim_process.hpp"
-#include "fakes/temp_folder.hpp"
-#include "fakes/test_paths.hpp"
+#include "e2e/sim_client.hpp"
 #include "web/dlg_lat_lon_rad.hpp"
 #include "web/dlg_type_control.hpp"
 #include "web/frm_listings.hpp"
@@ -29,25 +21,20 @@ namespace {
 
 const std::string kList = "GET /cgi-bin/get_mark_list.prl?";
 
-class MarkListsTest : public ::testing::Test {
+class MarkListsTest : public SampleSimTest {
  protected:
-  static void SetUpTestSuite() { sim_ = std::make_unique<OcoSimProcess>(SampleDataset()); }
-  static void TearDownTestSuite() { sim_.reset(); }
-
   void SetUp() override {
-    fake_.platform.paths.supportPath = SourceSupport();
-    fake_.platform.http = &http_;
-    fake_.settings.SaveSetting("Settings", "ServiceAddress", sim_->BaseUrl());
-    session_.dataset.DatFile = folder_.Write("sample.dat", ReadWholeFile(SampleDataset()));
-    LoadDatasetIndex(session_, fake_.platform);
-    fake_.ui.messages.clear();
-    ASSERT_EQ(SimGet(sim_->BaseUrl() + "/sim/reset"), "OK\n");
+    SampleSimTest::SetUp();
+    fake.platform.paths.supportPath = SourceSupport();
+    session.dataset.DatFile = folder.Write("sample.dat", ReadWholeFile(SampleDataset()));
+    LoadDatasetIndex(session, fake.platform);
+    fake.ui.messages.clear();
   }
 
   // Gives the local record of `pid` an order code (column 8 horizontal, 10 vertical) that the
   // service's list lacks.
   void SetLocalOrder(const std::string& pid, std::size_t column, char code) {
-    auto& index = session_.dataset.markIndex;
+    auto& index = session.dataset.markIndex;
     for (std::size_t i = 0; i < index.Size(); ++i)
       if (index[i].rfind(pid, 0) == 0) {
         std::string record = index[i];
@@ -59,7 +46,7 @@ class MarkListsTest : public ::testing::Test {
 
   template <class Model>
   void Then(std::function<void(Model&)> act) {
-    fake_.ui.modalActions.push_back([act](DialogModel& model) { act(dynamic_cast<Model&>(model)); });
+    fake.ui.modalActions.push_back([act](DialogModel& model) { act(dynamic_cast<Model&>(model)); });
   }
   void Type(const char* typeOption, std::size_t stability) {
     Then<dlgTypeControl>([=](dlgTypeControl& types) {
@@ -69,23 +56,15 @@ class MarkListsTest : public ::testing::Test {
     });
   }
   void Run(const char* command) {
-    BuildCommandTable().Run(command, session_, fake_.platform);
-    EXPECT_TRUE(fake_.ui.modalActions.empty()) << "a dialog was not shown";
-    EXPECT_FALSE(fake_.ui.hourglass);
+    BuildCommandTable().Run(command, session, fake.platform);
+    EXPECT_TRUE(fake.ui.modalActions.empty()) << "a dialog was not shown";
+    EXPECT_FALSE(fake.ui.hourglass);
   }
-  static std::string Log() { return SimGet(sim_->BaseUrl() + "/sim/log"); }
-  frmListings& Listings() { return session_.forms.Get<frmListings>(); }
-
-  static std::unique_ptr<OcoSimProcess> sim_;
-  TempFolder folder_;
-  FakePlatform fake_{folder_.Path()};
-  TestSession session_;
-  qt::QtHttpTransport http_{fake_.settings};
+  frmListings& Listings() { return session.forms.Get<frmListings>(); }
 };
-std::unique_ptr<OcoSimProcess> MarkListsTest::sim_;
 
 TEST_F(MarkListsTest, CountyOffersItsMarksAndHandsOnTheChosenOnesTheKeepRuleLetsThrough) {
-  session_.config.state = "NC NORTH CAROLINA";
+  session.config.state = "NC NORTH CAROLINA";
   SetLocalOrder("FY3210", 10, '2');  // the list has "." for its vertical order
   Then<frmOptions>([](frmOptions& states) {
     EXPECT_EQ(states.caption, "Select State:");
@@ -108,37 +87,37 @@ TEST_F(MarkListsTest, CountyOffersItsMarksAndHandsOnTheChosenOnesTheKeepRuleLets
     for (const std::size_t i : {0, 5, 10, 23}) listings.selected[i] = true;  // FY3210 EZ1203 FY0871 DH7204
     listings.cmdOkay_Click();
   });
-  fake_.ui.msgAnswers.push_back(MsgResult::No);  // goes on all the same
+  fake.ui.msgAnswers.push_back(MsgResult::No);  // goes on all the same
   Run("mnuUpdateByCounty");
 
   EXPECT_EQ(Log(), kList + "1=COUNTY&2=NC&3=135&4=H-0-A HTTP/1.1\n"
                    "GET /cgi-bin/ds_pids.prl?1=EZ1203&2=FY0871&3=DH7204 HTTP/1.1\n");
-  ASSERT_EQ(fake_.ui.messages.size(), 2u);
-  EXPECT_EQ(fake_.ui.messages[1].text, "1 Descriptions were not updated because\r\n"
+  ASSERT_EQ(fake.ui.messages.size(), 2u);
+  EXPECT_EQ(fake.ui.messages[1].text, "1 Descriptions were not updated because\r\n"
                                        "additional data was in the original description.\r\n"
                                        "3 Descriptions were updated.");
-  EXPECT_EQ(fake_.ui.messages[0].text, " 3 stations found.\r\nContinue?");
-  EXPECT_EQ(fake_.ui.messages[0].title, "Get Descriptions from OCO");
-  EXPECT_EQ(fake_.ui.messages[0].buttons, MsgButtons::YesNo);
+  EXPECT_EQ(fake.ui.messages[0].text, " 3 stations found.\r\nContinue?");
+  EXPECT_EQ(fake.ui.messages[0].title, "Get Descriptions from OCO");
+  EXPECT_EQ(fake.ui.messages[0].buttons, MsgButtons::YesNo);
 }
 
 TEST_F(MarkListsTest, CountyEndsBeforeAskingTheService) {
   // Esc at the state, a county the file does not hold, a read-only dataset.
   Then<frmOptions>([](frmOptions& states) { states.filterKey(27); });
   Run("mnuUpdateByCounty");
-  EXPECT_TRUE(fake_.ui.messages.empty());
+  EXPECT_TRUE(fake.ui.messages.empty());
 
   Then<frmOptions>([](frmOptions& states) { states.cboChoices = "NC"; });
   Then<frmOptions>([](frmOptions& counties) { counties.cboChoices = "NOWHERE"; });
   Run("mnuUpdateByCounty");
-  EXPECT_EQ(fake_.ui.MessageTexts(), std::vector<std::string>{"Invalid Fips Code!"});
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Invalid Fips Code!"});
 
-  std::filesystem::permissions(session_.dataset.DatFile, std::filesystem::perms::owner_read);
+  std::filesystem::permissions(session.dataset.DatFile, std::filesystem::perms::owner_read);
   Run("mnuUpdateByCounty");
-  ASSERT_EQ(fake_.ui.messages.size(), 2u);
-  EXPECT_EQ(fake_.ui.messages[1].text, ".dat file is read-only");
-  EXPECT_EQ(fake_.ui.messages[1].title, "Update from Internet");
-  EXPECT_EQ(fake_.ui.messages[1].icon, MsgIcon::Critical);
+  ASSERT_EQ(fake.ui.messages.size(), 2u);
+  EXPECT_EQ(fake.ui.messages[1].text, ".dat file is read-only");
+  EXPECT_EQ(fake.ui.messages[1].title, "Update from Internet");
+  EXPECT_EQ(fake.ui.messages[1].icon, MsgIcon::Critical);
   EXPECT_EQ(Log(), "");
 }
 
@@ -156,29 +135,29 @@ TEST_F(MarkListsTest, RadiusAsksAroundThePointAsTyped) {
     listings.selected.assign(3, true);
     listings.cmdOkay_Click();
   });
-  fake_.ui.msgAnswers.push_back(MsgResult::Yes);
-  session_.config.hemi1 = "N";
-  session_.config.hemi2 = "W";
+  fake.ui.msgAnswers.push_back(MsgResult::Yes);
+  session.config.hemi1 = "N";
+  session.config.hemi2 = "W";
   Run("mnuUpdtLatLonRad");
   EXPECT_EQ(Log(), kList + "1=RADIUS&2=N360342&3=W0790718&4=1&5=X-0-0 HTTP/1.1\n"
                    "GET /cgi-bin/ds_pids.prl?1=FY3210&2=FY3209&3=FY0895 HTTP/1.1\n");
-  EXPECT_EQ(fake_.ui.MessageTexts(),
+  EXPECT_EQ(fake.ui.MessageTexts(),
             (std::vector<std::string>{" 3 stations found.\r\nContinue?", "3 Descriptions were updated."}));
-  EXPECT_EQ(fake_.shell.trashed.size(), 1u);  // the dataset as it stood
-  EXPECT_EQ(KeptSelection(session_.dataset.markIndex, Listings()).pids,
+  EXPECT_EQ(fake.shell.trashed.size(), 1u);  // the dataset as it stood
+  EXPECT_EQ(KeptSelection(session.dataset.markIndex, Listings()).pids,
             (std::vector<std::string>{"FY3210", "FY3209", "FY0895"}));
 }
 
 TEST_F(MarkListsTest, RadiusCancelGoesOnAndRefusalsEndIt) {
   // Cancel in both dialogs: the lone hemisphere letters pass, and the service is asked with an empty
   // radius and type code (which it refuses).
-  session_.config.hemi1 = "N";
-  session_.config.hemi2 = "W";
+  session.config.hemi1 = "N";
+  session.config.hemi2 = "W";
   Then<dlgLatLonRad>([](dlgLatLonRad& point) { point.CancelButton_Click(); });
   Then<dlgTypeControl>([](dlgTypeControl& types) { types.CancelButton_Click(); });
   Run("mnuUpdtLatLonRad");
   EXPECT_EQ(Log(), kList + "1=RADIUS&2=N&3=W&4=&5= HTTP/1.1\n");
-  EXPECT_EQ(fake_.ui.MessageTexts(), std::vector<std::string>{"Invalid input data!"});
+  EXPECT_EQ(fake.ui.MessageTexts(), std::vector<std::string>{"Invalid input data!"});
 
   const std::array<std::array<const char*, 4>, 3> refused{{{"N910000", "W0790718", "1", "Invalid latitude!"},
                                                             {"N360342", "W400000000", "1", "Invalid longitude!"},
@@ -189,27 +168,27 @@ TEST_F(MarkListsTest, RadiusCancelGoesOnAndRefusalsEndIt) {
       point.OKButton_Click();
     });
     Run("mnuUpdtLatLonRad");
-    EXPECT_EQ(fake_.ui.messages.back().text, texts[3]);
-    EXPECT_EQ(fake_.ui.messages.back().title, "Import by Lat, Lon, Radius");
-    EXPECT_EQ(fake_.ui.messages.back().icon, MsgIcon::Critical);
+    EXPECT_EQ(fake.ui.messages.back().text, texts[3]);
+    EXPECT_EQ(fake.ui.messages.back().title, "Import by Lat, Lon, Radius");
+    EXPECT_EQ(fake.ui.messages.back().icon, MsgIcon::Critical);
   }
   EXPECT_EQ(Log(), kList + "1=RADIUS&2=N&3=W&4=&5= HTTP/1.1\n");
 }
 
 TEST_F(MarkListsTest, ProjectTakesEveryMarkTheKeepRuleLetsThrough) {
   SetLocalOrder("DH7204", 10, '1');  // the list has "." for its vertical order
-  fake_.ui.inputAnswers = {"dh1234", "zz1"};
+  fake.ui.inputAnswers = {"dh1234", "zz1"};
   Type("2", 1);
-  fake_.ui.msgAnswers.push_back(MsgResult::No);
+  fake.ui.msgAnswers.push_back(MsgResult::No);
   Run("mnuUpdtbyProj");
   Type("13", 0);
   Run("mnuUpdtbyProj");
   EXPECT_EQ(Log(), kList + "1=PROJECT&2=DH1234&3=N&4=H-0-A HTTP/1.1\n" + kList +
                        "1=PROJECT&2=ZZ1&3=N&4=COR-0 HTTP/1.1\n");
-  ASSERT_EQ(fake_.ui.messages.size(), 2u);
-  EXPECT_EQ(fake_.ui.messages[0].text, " 5 stations found.\r\nContinue?");
-  EXPECT_EQ(fake_.ui.messages[1].text, "No stations found!");
-  EXPECT_EQ(fake_.ui.messages[1].title, "Import From Internet");
+  ASSERT_EQ(fake.ui.messages.size(), 2u);
+  EXPECT_EQ(fake.ui.messages[0].text, " 5 stations found.\r\nContinue?");
+  EXPECT_EQ(fake.ui.messages[1].text, "No stations found!");
+  EXPECT_EQ(fake.ui.messages[1].title, "Import From Internet");
 }
 
 }  // namespace

@@ -7,16 +7,11 @@
 #include <functional>
 
 #include "common/files.hpp"
-#include "e2e/sim_get.hpp"
 #include "common/text.hpp"
 #include "dataset/build_mark_index.hpp"
 #include "dataset/compress_dataset.hpp"
-#include "fakes/fakes.hpp"
+#include "e2e/sim_client.hpp"
 #include "fakes/file_size_limit.hpp"
-#include "fakes/oco_sim_process.hpp"
-#include "fakes/temp_folder.hpp"
-#include "fakes/test_paths.hpp"
-#include "platform/qt/qt_http_transport.hpp"
 #include "session/dataset_paths.hpp"
 #include "session/frm_view.hpp"
 #include "app/command_registry.hpp"
@@ -53,19 +48,12 @@ class FaultingTransport final : public HttpTransport {
   int requests_ = 0;
 };
 
-struct UpdateRun {
+struct UpdateRun : SimClient {
   OcoSimProcess sim{TestData("web/replace/service.dat")};
-  TempFolder folder;
-  FakePlatform fake{folder.Path()};
-  qt::QtHttpTransport transport{fake.settings};
-  TestSession session;
   std::string oldDataset, oldIndex;
 
   UpdateRun() {
-    fake.settings.SaveSetting("Settings", "ServiceAddress", sim.BaseUrl());
-    fake.settings.SaveSetting("Settings", "RetryWait", "0.05");
-    fake.settings.SaveSetting("Settings", "RequestTimeout", "2");
-    fake.platform.http = &transport;
+    UseService(sim.BaseUrl());
     oldDataset = ReadWholeFile(SampleDataset());
     session.dataset.DatFile = folder.Write("sample.dat", oldDataset);
     SetDerivedPaths(session, folder.Path());

@@ -3,12 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "common/text.hpp"
-#include "fakes/fakes.hpp"
-#include "fakes/oco_sim_process.hpp"
-#include "e2e/sim_get.hpp"
-#include "fakes/test_paths.hpp"
+#include "e2e/sim_client.hpp"
 #include "fakes/test_rows.hpp"
-#include "platform/qt/qt_http_transport.hpp"
 #include "web/frm_login.hpp"
 #include "web/web_transfers.hpp"
 
@@ -30,14 +26,11 @@ TEST(WebTransfersOverHttp, ClassifyWhatTheServiceAnswers) {
       const std::string fault = "/sim/fault?path=" + path + "&kind=" + c[1] + "&count=" + c[2];
       ASSERT_EQ(SimGet(sim.BaseUrl() + fault), "OK\n") << name;
     }
-    FakePlatform fake;
-    fake.settings.SaveSetting("Settings", "ServiceAddress", sim.BaseUrl());
-    fake.settings.SaveSetting("Settings", "RetryWait", "0.05");
-    fake.settings.SaveSetting("Settings", "RequestTimeout", "1");
-    qt::QtHttpTransport transport(fake.settings);
-    transport.UserName = "surveyor";  // the login of an earlier request of the run
-    transport.Password = "level";
-    fake.platform.http = &transport;
+    SimClient run;
+    run.UseService(sim.BaseUrl(), "1");
+    run.transport.UserName = "surveyor";  // the login of an earlier request of the run
+    run.transport.Password = "level";
+    FakePlatform& fake = run.fake;
     for (const char login : c[3])
       fake.ui.modalActions.push_back([&fake, login](DialogModel& model) {
         auto& form = dynamic_cast<frmLogin&>(model);

@@ -69,6 +69,8 @@ class FrmPlotTest : public QObject {
     QVERIFY(inked);
   }
 
+  // Point numbers and PIDs turn each other off in the window and the model; a label turned off so
+  // keeps its setting.
   void OptionsReachTheModelAndTheSettings() {
     testing::FakePlatform fake;
     frmPlot model;
@@ -76,15 +78,18 @@ class FrmPlotTest : public QObject {
     model.platform = &fake.platform;
     qt::FrmPlotWindow window(model);
     window.LoadFromModel();
-    QVERIFY(window.Action("mnuPltPID")->isChecked());
-    window.Action("mnuPltNum")->trigger();  // off
-    window.Action("mnuPltNum")->trigger();  // on again: PID's off
-    QVERIFY(window.Action("mnuPltNum")->isChecked());
-    QVERIFY(!window.Action("mnuPltPID")->isChecked());
-    QVERIFY(!model.mnuPltPID);
+    const auto checked = [&](const char* name) { return window.Action(name)->isChecked(); };
+    QVERIFY(checked("mnuPltNum") && checked("mnuPltPID") && checked("mnuPltDes") && checked("mnuPlotGridTks"));
+    QVERIFY(!checked("mnuPlotCities"));
+    for (const char* name : {"mnuPltPID", "mnuPltNum", "mnuPltPID"}) window.Action(name)->trigger();
+    QVERIFY(checked("mnuPltPID") && !checked("mnuPltNum"));  // PIDs on again: numbers stay off
+    window.Action("mnuPltNum")->trigger();  // on: PIDs off
+    QVERIFY(checked("mnuPltNum") && !checked("mnuPltPID") && !model.mnuPltPID);
+    const auto setting = [&](const char* key) { return QString::fromStdString(fake.settings.GetSetting("frmPlot", key, "")); };
+    QCOMPARE(setting("PlotPid") + setting("PlotNum"), QString("TrueTrue"));
     window.Action("mnuPlotCities")->trigger();
     QVERIFY(model.mnuPlotCities);
-    QCOMPARE(QString::fromStdString(fake.settings.GetSetting("frmPlot", "PlotCities", "")), QString("True"));
+    QCOMPARE(setting("PlotCities"), QString("True"));
   }
 
   // The canvas shows 1000 x 750 m with two marks on its middle line; the mouse picks, drags a band
