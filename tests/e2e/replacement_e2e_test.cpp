@@ -87,30 +87,28 @@ struct UpdateRun : SimClient {
   }
 };
 
-TEST(ReplacementOverHttp, ByPidReplacesTheTypedMarks) {
-  UpdateRun run;
-  run.fake.ui.modalActions.push_back([](DialogModel& model) {
-    auto& view = dynamic_cast<frmView&>(model);
-    EXPECT_EQ(view.Caption, "Enter list of PIDs (1000 Maximum):");
-    view.txtViewFile = "FY3209\r\nEZ1203\r\nFX2230";
-  });
-  mnuUpdateByPID(run.session, run.fake.platform);
-  EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
-  run.ExpectDataset(ReadWholeFile(TestData("web/replace/by_pid_expected.dat")));
-}
-
-TEST(ReplacementOverHttp, CorsByStateAddsTheStationsOfTheState) {
-  UpdateRun run;
-  run.fake.platform.paths.supportPath = SourceSupport();
-  run.session.config.state = "NC NORTH CAROLINA";
-  run.fake.ui.modalActions.push_back([](DialogModel& model) {
-    auto& states = dynamic_cast<frmOptions&>(model);
-    EXPECT_EQ(states.caption + "|" + states.cboChoices, "Select State:|NC NORTH CAROLINA");
-    states.filterKey(13);
-  });
-  mnuCORSbyST(run.session, run.fake.platform);
-  EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
-  run.ExpectDataset(ReadWholeFile(TestData("web/replace/cors_expected.dat")));
+// By PID with the typed marks, and the CORS of a state, against datasets built by hand.
+TEST(ReplacementOverHttp, ByPidAndCorsByStateGiveTheHandBuiltDatasets) {
+  for (const bool byPid : {true, false}) {
+    UpdateRun run;
+    run.fake.platform.paths.supportPath = SourceSupport();
+    run.session.config.state = "NC NORTH CAROLINA";
+    run.fake.ui.modalActions.push_back([byPid](DialogModel& model) {
+      if (byPid) {
+        auto& view = dynamic_cast<frmView&>(model);
+        EXPECT_EQ(view.Caption, "Enter list of PIDs (1000 Maximum):");
+        view.txtViewFile = "FY3209\r\nEZ1203\r\nFX2230";
+        return;
+      }
+      auto& states = dynamic_cast<frmOptions&>(model);
+      EXPECT_EQ(states.caption + "|" + states.cboChoices, "Select State:|NC NORTH CAROLINA");
+      states.filterKey(13);
+    });
+    if (byPid) mnuUpdateByPID(run.session, run.fake.platform);
+    else mnuCORSbyST(run.session, run.fake.platform);
+    EXPECT_EQ(run.Messages(), "-/Benchlog/Done!");
+    run.ExpectDataset(ReadWholeFile(TestData(byPid ? "web/replace/by_pid_expected.dat" : "web/replace/cors_expected.dat")));
+  }
 }
 
 // What a replacement must leave: the old dataset with the Descriptions of `pids` blanked (blanks and a

@@ -10,8 +10,8 @@
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_paths.hpp"
-#include "geodesy/ellipsoid.hpp"
 #include "plot/plot_files.hpp"
+#include "plot/plot_fixture.hpp"
 #include "plot/plot_store.hpp"
 
 namespace benchlog {
@@ -20,7 +20,7 @@ namespace {
 using testing::TempFolder;
 using testing::TestData;
 
-const Ellipsoid kGrs80{6378137, 0.00669438002290, 0.00669438002290 / (1 - 0.00669438002290)};
+using testing::kGrs80;
 
 TEST(PlotFiles, MatchTheFilesWorkedOutForEachIndex) {
   struct Case {

@@ -8,7 +8,7 @@
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_paths.hpp"
-#include "plot/frm_plot.hpp"
+#include "plot/plot_fixture.hpp"
 #include "plot/nearest_mark.hpp"
 #include "plot/plot_files.hpp"
 #include "session/dataset_paths.hpp"
@@ -17,7 +17,6 @@
 namespace benchlog {
 namespace {
 
-using testing::FakePlatform;
 using testing::TempFolder;
 using Points = std::vector<std::int16_t>;
 
@@ -81,15 +80,8 @@ TEST(MeasureText, MetresAndFeetBelow500ElseKilometresAndMiles) {
 // The 40 x 30 km grid of 30 marks (6 a row, 8 km apart east, 7.5 km north; mark 1 at east 600,000,
 // north 4,000,000, PID PL0001, "STATION 01"), laid out in an 800 x 600 client at level 5 around
 // (620,000, 4,015,000).
-struct GridPlot {
-  GridPlot() : fake(folder.Path()) {
-    folder.Write("UTMCoords.dat", ReadWholeFile(testing::TestData("plot/grid30_UTMCoords.dat")));
-    folder.Write("UTMCities.dat", "");
-    form.Load(fake.settings);
-    form.clientWidth = 800, form.clientHeight = 600;
-    form.mnuPlotGridTks = false;
-    form.session = &session;
-    form.platform = &fake.platform;
+struct GridPlot : testing::PlotFixture {
+  GridPlot() : PlotFixture(ReadWholeFile(testing::TestData("plot/grid30_UTMCoords.dat"))) {
     form.onBeep = [this] { ++beeps; };
     form.PlotAll();
   }
@@ -98,10 +90,6 @@ struct GridPlot {
     form.MouseMove(x2, y2);
     form.MouseUp(MouseButton::Left, x2, y2);
   }
-  TempFolder folder;
-  FakePlatform fake;
-  testing::TestSession session;
-  frmPlot form;
   int beeps = 0;
 };
 
@@ -241,32 +229,21 @@ TEST(PlotPopup, NothingPickedMeansNothingDoneAndAFarClickKeepsTheLastPick) {
 
 // pictures.dat: EF0001 to EF0003 at offsets 1, 387 and 775 of its 1161 bytes, about 1.8 km apart,
 // plotted as marks 1 to 3.
-struct DatasetPlot {
-  DatasetPlot() : fake(folder.Path()) {
+struct DatasetPlot : testing::PlotFixture {
+  DatasetPlot() : PlotFixture("") {
     dat = ReadWholeFile(testing::TestData("dataset/pictures.dat"));
     session.dataset.DatFile = folder.Write("pictures.dat", dat);
     session.dataset.DatFilePath = folder.Path() + "/";
     SetDerivedPaths(session, folder.Path());
     fake.platform.paths.supportPath = testing::SourceSupport();
-    session.config.ellipsoidA = 6378137;
-    session.config.ellipsoidE2 = 0.00669438002290;
-    session.config.ellipsoidEp2 = 0.00669438002290 / (1 - 0.00669438002290);
+    testing::UseGrs80(session);
     EXPECT_TRUE(BuildMarkIndex(session.dataset.DatFile, session.dataset.IndexFile, session.dataset.markIndex, fake.platform));
-    const Ellipsoid ellipsoid{session.config.ellipsoidA, session.config.ellipsoidE2, session.config.ellipsoidEp2};
-    PreparePlotFiles(session.dataset.markIndex, ellipsoid, folder.Path(), fake.platform.paths.supportPath);
-    form.Load(fake.settings);
-    form.mnuPlotGridTks = false;
-    form.session = &session;
-    form.platform = &fake.platform;
+    PreparePlotFiles(session.dataset.markIndex, testing::kGrs80, folder.Path(), fake.platform.paths.supportPath);
     form.PlotAll();
   }
   void RightClickOn(int point) {
     form.MouseDown(MouseButton::Right, static_cast<float>(form.store.PtEast[point]), static_cast<float>(form.store.PtNorth[point]));
   }
-  TempFolder folder;
-  FakePlatform fake;
-  testing::TestSession session;
-  frmPlot form;
   std::string dat;
 };
 

@@ -9,36 +9,15 @@
 #include "fakes/fakes.hpp"
 #include "fakes/temp_folder.hpp"
 #include "fakes/test_rows.hpp"
-#include "plot/frm_plot.hpp"
+#include "plot/plot_fixture.hpp"
 #include "plot/plot_commands.hpp"
 
 namespace benchlog {
 namespace {
 
 using testing::FakePlatform;
+using testing::PlotFixture;
 using testing::TempFolder;
-
-// A plot window over the files `coords` and `cities` in a fresh program folder, with an 800 x 600
-// client, ticks off and the labels numbers and designations.
-struct PlotFixture {
-  explicit PlotFixture(const std::string& coords, const std::string& cities = "") : fake(folder.Path()) {
-    folder.Write("UTMCoords.dat", coords);
-    folder.Write("UTMCities.dat", cities);
-    form.Load(fake.settings);
-    form.clientWidth = 800;
-    form.clientHeight = 600;
-    form.mnuPlotGridTks = false;
-    form.mnuPltPID = false;
-  }
-  void Plot(int level = 0) {
-    form.ZoomLevel = static_cast<std::int16_t>(level);
-    form.Plot(session, fake.platform);
-  }
-  TempFolder folder;
-  FakePlatform fake;
-  testing::TestSession session;
-  frmPlot form;
-};
 
 std::string Hex(std::uint32_t color) {
   char text[8];
@@ -189,9 +168,7 @@ TEST(PlotLayout, EmptyStoreAndMarksWithoutPositionDrawNothing) {
 TEST(PlotTicks, CornersOnTheGraticuleInsideTheView) {
   PlotFixture plot(Grid30());
   plot.form.mnuPlotGridTks = true;
-  plot.session.config.ellipsoidA = 6378137;
-  plot.session.config.ellipsoidE2 = 0.00669438002290;
-  plot.session.config.ellipsoidEp2 = 0.00669438002290 / (1 - 0.00669438002290);
+  testing::UseGrs80(plot.session);
   plot.session.dataset.markIndex.Assign({"TK0001 1   36 00 00.00000 079 30 00.00000 TICK"});
   plot.Plot();
   struct Corner {
@@ -230,8 +207,7 @@ TEST(PlotCommand, PreparesTheFilesAndShowsTheWindow) {
   app.Write("Towns.txt", "");
   fake.settings.SaveSetting("frmPlot", "PlotFontSize", "11");
   testing::TestSession session;
-  session.config.ellipsoidA = 6378137;
-  session.config.ellipsoidE2 = 0.00669438002290;
+  testing::UseGrs80(session);
   session.dataset.markIndex.Assign({"PC0001 1   35 45 00.00000 077 45 00.00000 ONE",
                                     "PC0002 2   35 46 00.00000 077 40 00.00000 TWO"});
   mnuPlot(session, fake.platform);
