@@ -69,7 +69,7 @@ std::string Number(double value) {
 
 std::string Describe(const PlotPrimitive& p) {
   if (p.kind == PrimitiveKind::Text)
-    return "T " + Number(p.x1) + " " + Number(p.y1) + " " + std::to_string(p.fontSize) + " " + p.text;
+    return "T " + Number(p.x1) + " " + Number(p.y1) + " " + Number(p.fontSize) + " " + p.text;
   return std::string(p.kind == PrimitiveKind::Box ? "B " : p.kind == PrimitiveKind::Line ? "L " : "? ") +
          Number(p.x1) + " " + Number(p.y1) + " " + Number(p.x2) + " " + Number(p.y2);
 }
