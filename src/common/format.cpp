@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -64,6 +65,14 @@ struct RoundedDigits {
 };
 
 void Round(double magnitude, int decimals, RoundedDigits& out) {
+  // A whole number of up to 15 digits is its own 15-digit form: nothing to round.
+  if (magnitude < 1e15 && magnitude == std::floor(magnitude)) {
+    const auto whole = static_cast<std::uint64_t>(magnitude);
+    const auto written = std::to_chars(out.buffer, out.buffer + sizeof out.buffer, whole);
+    out.integer = whole == 0 ? std::string_view() : std::string_view(out.buffer, written.ptr);
+    out.fraction = std::string_view();
+    return;
+  }
   char scientific[64];  // d.dddddddddddddde±xx, with "." whatever the locale says
   const auto written =
       std::to_chars(scientific, scientific + sizeof scientific, magnitude, std::chars_format::scientific, 14);

@@ -1,5 +1,6 @@
 #include "dataset/find_descriptions.hpp"
 
+#include <algorithm>
 #include <cstring>
 
 #include "common/runtime_failure.hpp"
@@ -105,6 +106,17 @@ bool DescriptionStream::Next() {
 void DescriptionStream::Lines(std::vector<std::string_view>& lines) {
   while (!DescriptionLines(text_.Window(), InWindow(start_), pid_, lines) && ReadOn(header_)) {
   }
+  // Every line start from the current header to the end of these lines is the start of one of
+  // them, so the next header is the first of them that starts with "1", or lies behind them.
+  const char* const window = text_.Window().data();
+  const auto offsetOf = [&](const char* at) { return text_.WindowStart() + static_cast<std::size_t>(at - window); };
+  std::size_t resume = scanFrom_;
+  for (const std::string_view line : lines) {
+    resume = offsetOf(line.data());
+    if (!line.empty() && line[0] == '1') break;
+    resume += line.size();
+  }
+  scanFrom_ = std::max(scanFrom_, resume);
 }
 
 std::size_t CountDescriptions(TextBlocks& text) {

@@ -1,41 +1,95 @@
 #include "geodesy/angle_text.hpp"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
 
-#include "common/format.hpp"
 #include "common/number_text.hpp"
 #include "common/rounding.hpp"
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 #include "geodesy/angles.hpp"
-#include "geodesy/format_padded.hpp"
 
 namespace benchlog {
 namespace {
 
 constexpr char kDegreeSign = static_cast<char>(176);
 
-// A single-precision value as the decimal number its seven significant digits show, so that
-// formatting never brings out digits the single does not hold.
-double SingleAsDecimal(float value) {
-  char buffer[32];
-  std::snprintf(buffer, sizeof buffer, "%.7g", static_cast<double>(value));
-  return std::strtod(buffer, nullptr);
+// The seven significant digits that a single-precision value shows, as "%.7g" writes them:
+// value = d0.d1...d6 x 10^exponent.
+struct SevenDigits {
+  char digits[7];
+  int exponent;
+  bool negative;
+};
+
+SevenDigits DigitsOf(float value) {
+  char buffer[32];  // d.dddddde±xx
+  const auto written = std::to_chars(buffer, buffer + sizeof buffer, static_cast<double>(value),
+                                     std::chars_format::scientific, 6);
+  const char* text = buffer;
+  SevenDigits out{};
+  out.negative = value < 0;  // not -0
+  if (*text == '-') ++text;
+  out.digits[0] = text[0];
+  std::copy(text + 2, text + 8, out.digits + 1);
+  const char* e = text + 9;  // past the "e"
+  std::from_chars(e + (*e == '+' ? 1 : 0), written.ptr, out.exponent);
+  return out;
 }
 
-std::string SecondsText(float seconds, int decimals) {
-  if (decimals == 0) return Format(SingleAsDecimal(seconds), "00");
-  return Format(SingleAsDecimal(seconds), "00." + std::string(static_cast<std::size_t>(decimals), '0'));
+// Appends the seconds as Format writes them through "00" or "00.000..." (`places` zeros), rounded
+// half away from zero. The 15 significant digits that Format rounds from are the seven shown
+// digits followed by zeros, so rounding those seven digits gives the same text.
+void AppendSeconds(std::string& out, const SevenDigits& value, int places) {
+  const auto digitAt = [&](int weight) {  // the digit worth 10^weight
+    const int k = value.exponent - weight;
+    return k >= 0 && k < 7 ? value.digits[k] : '0';
+  };
+  const int top = std::max(value.exponent, 1);
+  if (value.negative) out += '-';
+  const std::size_t first = out.size();
+  for (int weight = top; weight >= -places; --weight) out += digitAt(weight);
+  if (digitAt(-places - 1) >= '5') {
+    std::size_t i = out.size();
+    while (i > first && out[i - 1] == '9') out[--i] = '0';
+    if (i > first) ++out[i - 1];
+    else out.insert(first, 1, '1');
+  }
+  if (places > 0) out.insert(out.end() - places, '.');
 }
 
-std::string DegreesText(const std::string& sign, std::int16_t degrees, bool pad, bool zeroFill) {
-  if (zeroFill) return sign + Format(degrees, "000");
-  if (pad) return sign + FormatPadded(static_cast<double>(degrees), "##0");
-  return sign + Format(degrees, "##0");
+// Appends `value` with at least `width` digits, zero-filled, as Format(value, "00...") does.
+void AppendInteger(std::string& out, int value, std::size_t width) {
+  char buffer[16];
+  const auto written = std::to_chars(buffer, buffer + sizeof buffer, value < 0 ? -value : value);
+  const auto length = static_cast<std::size_t>(written.ptr - buffer);
+  if (value < 0) out += '-';
+  if (length < width) out.append(width - length, '0');
+  out.append(buffer, length);
+}
+
+// The degrees: "000" when `zeroFill`, right-justified in three columns when `pad`, else "##0".
+void AppendDegrees(std::string& out, bool negative, std::int16_t degrees, bool pad, bool zeroFill) {
+  if (negative) out += '-';
+  const std::size_t start = out.size();
+  AppendInteger(out, degrees, zeroFill ? 3 : 1);
+  const std::size_t length = out.size() - start;
+  if (pad && !zeroFill && length < 3) out.insert(start, 3 - length, ' ');
+}
+
+// The seconds at or above which they roll into the minute: "59.9...95" read as a single.
+float RollThreshold(int places) {
+  static const std::array<float, 16> table = [] {
+    std::array<float, 16> values{};
+    for (std::size_t p = 0; p < values.size(); ++p)
+      values[p] = static_cast<float>(Val("59." + std::string(p, '9') + "5"));
+    return values;
+  }();
+  if (static_cast<std::size_t>(places) < table.size()) return table[static_cast<std::size_t>(places)];
+  return static_cast<float>(Val("59." + std::string(static_cast<std::size_t>(places), '9') + "5"));
 }
 
 std::string InvalidAngle(const std::string& text) { return "<*** Invalid angle - " + text + " ***>"; }
@@ -75,23 +129,24 @@ Fields PointedFields(const std::string& text) {
 void RadToDms(double angle, std::string& text, std::int16_t formatCode, std::int16_t decimals, bool pad,
               bool zeroFill) {
   double value = angle * 180.0 / kPi;
-  std::string sign;
-  if (value < 0) {
-    value = -value;
-    sign = "-";
-  }
+  const bool negative = value < 0;
+  if (negative) value = -value;
   std::int16_t degrees = CInt(std::floor(value));
   std::int16_t minutes = CInt(std::floor((value - degrees) * 60.0));
   float seconds = static_cast<float>(((value - degrees) * 60.0 - minutes) * 60.0);
 
   const int places = std::max<int>(0, decimals);
-  const std::string nines(static_cast<std::size_t>(places), '9');
-  const float threshold = static_cast<float>(Val("59." + nines + "5"));
-  std::string s = SecondsText(seconds, places);
+  // Runs of this are formatted a line at a time, so the text is built in place without
+  // intermediate strings: most of it fits the string's own small buffer.
+  std::string s;
+  AppendSeconds(s, DigitsOf(seconds), places);
+  double written = 0;
+  std::from_chars(s.data(), s.data() + s.size(), written);
   // Single-precision seconds just below the threshold can still be written as 60: the text decides.
-  if (seconds >= threshold || Val(s) >= 60.0) {
+  if (seconds >= RollThreshold(places) || written >= 60.0) {
     seconds = 0.0f;
-    s = SecondsText(seconds, places);
+    s.clear();
+    AppendSeconds(s, DigitsOf(seconds), places);
     minutes = AddInt16(minutes, 1);
     if (minutes == 60) {
       minutes = 0;
@@ -99,16 +154,37 @@ void RadToDms(double angle, std::string& text, std::int16_t formatCode, std::int
     }
   }
   if (seconds == 0.0f && degrees == 360 && minutes == 0) degrees = 0;
+  if (formatCode < kDmsPointed || formatCode > kDmsSymbols) return;
 
-  const std::string d = DegreesText(sign, degrees, pad, zeroFill);
-  const std::string m = Format(minutes, "00");
+  text.clear();
+  AppendDegrees(text, negative, degrees, pad, zeroFill);
   switch (formatCode) {
-    case kDmsPointed: text = d + "." + m + ReplaceAll(s, ".", ""); break;
-    case kDmsBlank: text = d + " " + m + " " + s; break;
-    case kDmsHyphen: text = d + "-" + m + "-" + s; break;
-    case kDmsPacked: text = d + m + s; break;
-    case kDmsSymbols: text = d + kDegreeSign + m + "'" + s + "\""; break;
-    default: break;
+    case kDmsPointed:
+      text += '.';
+      AppendInteger(text, minutes, 2);
+      for (const char c : s)
+        if (c != '.') text += c;
+      break;
+    case kDmsBlank:
+    case kDmsHyphen: {
+      const char separator = formatCode == kDmsBlank ? ' ' : '-';
+      text += separator;
+      AppendInteger(text, minutes, 2);
+      text += separator;
+      text += s;
+      break;
+    }
+    case kDmsPacked:
+      AppendInteger(text, minutes, 2);
+      text += s;
+      break;
+    default:  // kDmsSymbols
+      text += kDegreeSign;
+      AppendInteger(text, minutes, 2);
+      text += '\'';
+      text += s;
+      text += '"';
+      break;
   }
 }
 

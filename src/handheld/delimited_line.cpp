@@ -38,6 +38,25 @@ std::string_view Required(const std::vector<std::string_view>& fields, const std
   return fields[*column];
 }
 
+// `text` with a to z capitalised, as UCase writes it.
+void Capitals(std::string_view text, std::string& out) {
+  out.assign(text);
+  for (char& c : out)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+}
+
+// The pieces of `text` between the separators, as SplitViews cuts them.
+void SplitInto(std::string_view text, std::string_view separator, std::vector<std::string_view>& parts) {
+  parts.clear();
+  std::size_t pos = 0;
+  for (auto hit = text.find(separator); hit != std::string_view::npos && !separator.empty();
+       hit = text.find(separator, pos)) {
+    parts.push_back(text.substr(pos, hit - pos));
+    pos = hit + separator.size();
+  }
+  parts.push_back(text.substr(pos));
+}
+
 }  // namespace
 
 DelimitedColumns IdentifyColumns(const std::array<std::string, 10>& slots) {
@@ -58,8 +77,11 @@ DelimitedColumns IdentifyColumns(const std::array<std::string, 10>& slots) {
 
 LineResult ConvertDelimitedLine(std::string_view line, std::string_view delimiter, const DelimitedColumns& columns,
                                 const DelimitedAttributes& attributes, std::string& agency, std::string& record) {
-  const std::string upper = UCase(line);
-  const std::vector<std::string_view> fields = SplitViews(upper, delimiter);
+  // A file is converted a line at a time: the capitals and the fields reuse their buffers.
+  thread_local std::string upper;
+  thread_local std::vector<std::string_view> fields;
+  Capitals(line, upper);
+  SplitInto(upper, delimiter, fields);
   if (fields.size() - 1 < columns.required) return LineResult::kSkipped;
 
   LineAngles angles;
