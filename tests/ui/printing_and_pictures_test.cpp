@@ -72,7 +72,10 @@ class PrintingAndPicturesTest : public QObject {
   void picturesThatCannotBeShownSayWhy() {
     testing::TempFolder folder;
     QImage(1, 1, QImage::Format_RGB32).save(QString::fromStdString(folder.File("one.png")));
-    QImage huge(12000, 12000, QImage::Format_Mono);
+    QImage big(12000, 12000, QImage::Format_Mono);
+    big.fill(0);
+    big.save(QString::fromStdString(folder.File("big.png")));
+    QImage huge(20000, 14000, QImage::Format_Mono);
     huge.fill(0);
     huge.save(QString::fromStdString(folder.File("huge.png")));
     QImage noisy(200, 150, QImage::Format_RGB32);
@@ -87,7 +90,8 @@ class PrintingAndPicturesTest : public QObject {
     const std::tuple<const char*, int, const char*> cases[] = {
         {"one.png", 0, "1x1"},
         {"whole.jpg", 0, "200x150"},
-        {"huge.png", 481, "is too large to show (12000 x 12000 pixels)."},
+        {"big.png", 0, "12000x12000"},
+        {"huge.png", 481, "is too large to show (20000 x 14000 pixels)."},
         {"cut.jpg", 481, "is damaged: the file is cut short."},
         {"text.jpg", 481, "is not a picture file that can be shown."},
         {"missing.jpg", 53, ""},

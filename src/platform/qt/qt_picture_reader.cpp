@@ -36,6 +36,7 @@ PictureSize QtPictureReader::Read(const std::string& path) {
     throw InvalidPicture(path, "is too large to show (" + std::to_string(size.width()) + " x " +
                                    std::to_string(size.height()) + " pixels).");
   if (reader.format() == "jpeg" && !JpegIsComplete(file)) throw InvalidPicture(path, "is damaged: the file is cut short.");
+  reader.setAllocationLimit(static_cast<int>(kMaxPixels * 4 / (1024 * 1024)));  // MB, above Qt's default 256
   QImage picture = reader.read();
   if (picture.isNull()) throw InvalidPicture(path, "is damaged: " + FromQt(reader.errorString()) + ".");
   lastPath_ = path;

@@ -11,8 +11,9 @@ namespace benchlog::qt {
 
 class QtPictureReader final : public PictureReader {
  public:
-  // 64 million pixels: 256 MB decoded, Qt's own allocation limit for one picture.
-  static constexpr long long kMaxPixels = 64LL * 1024 * 1024;
+  // 16,384 x 16,384 pixels (1 GB decoded): a large scanned map still opens; a picture past that is
+  // refused from its header before any decoding.
+  static constexpr long long kMaxPixels = 16384LL * 16384;
 
   PictureSize Read(const std::string& path) override;
   // The picture of `path` as last read, so the window does not decode it twice; a null picture
