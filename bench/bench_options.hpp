@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <cstdio>
 #include <cstring>
+#include <exception>
 #include <filesystem>
 #include <string>
 
@@ -34,6 +36,19 @@ inline BenchOptions ReadBenchOptions(int argc, char** argv, const char* defaultF
     if (std::strcmp(argv[i], "--dir") == 0) options.folder = argv[i + 1];
   }
   return options;
+}
+
+// The main() of a benchmark: reads the options and runs `run(megabytes, folder)`; a failure is
+// reported under the benchmark's name with exit status 2 (1 is left for a missed target).
+template <class RunFunction>
+int RunBenchmark(int argc, char** argv, const char* name, RunFunction run) {
+  try {
+    const BenchOptions options = ReadBenchOptions(argc, argv, "benchlog-bench");
+    return run(options.megabytes, options.folder);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "%s: %s\n", name, failure.what());
+    return 2;
+  }
 }
 
 }  // namespace benchlog::bench

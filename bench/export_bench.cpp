@@ -112,11 +112,5 @@ int main(int argc, char** argv) {
 #ifdef BENCHLOG_BENCH_DATABASE
   QCoreApplication app(argc, argv);  // the database engine's driver is a Qt plugin
 #endif
-  try {
-    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
-    return benchlog::bench::Run(options.megabytes, options.folder);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "export_bench: %s\n", failure.what());
-    return 1;
-  }
+  return benchlog::bench::RunBenchmark(argc, argv, "export_bench", benchlog::bench::Run);
 }

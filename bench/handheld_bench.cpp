@@ -101,11 +101,5 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 }  // namespace benchlog::bench
 
 int main(int argc, char** argv) {
-  try {
-    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
-    return benchlog::bench::Run(options.megabytes, options.folder);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "handheld_bench: %s\n", failure.what());
-    return 2;
-  }
+  return benchlog::bench::RunBenchmark(argc, argv, "handheld_bench", benchlog::bench::Run);
 }

@@ -54,11 +54,5 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 }  // namespace benchlog::bench
 
 int main(int argc, char** argv) {
-  try {
-    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
-    return benchlog::bench::Run(options.megabytes, options.folder);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "kml_bench: %s\n", failure.what());
-    return 1;
-  }
+  return benchlog::bench::RunBenchmark(argc, argv, "kml_bench", benchlog::bench::Run);
 }

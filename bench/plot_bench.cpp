@@ -134,11 +134,5 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication app(argc, argv);
-  try {
-    const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
-    return benchlog::bench::Run(options.megabytes, options.folder);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "plot_bench: %s\n", failure.what());
-    return 1;
-  }
+  return benchlog::bench::RunBenchmark(argc, argv, "plot_bench", benchlog::bench::Run);
 }

@@ -95,11 +95,5 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
 }  // namespace benchlog::bench
 
 int main(int argc, char** argv) {
-  const auto options = benchlog::bench::ReadBenchOptions(argc, argv, "benchlog-bench");
-  try {
-    return benchlog::bench::Run(options.megabytes, options.folder);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "replace_bench: %s\n", failure.what());
-    return 2;
-  }
+  return benchlog::bench::RunBenchmark(argc, argv, "replace_bench", benchlog::bench::Run);
 }
