@@ -12,6 +12,7 @@
 #include <string>
 
 #include "dataset/dataset_size_limit.hpp"
+#include "dataset_generator.hpp"
 
 namespace benchlog::bench {
 
@@ -26,6 +27,14 @@ struct BenchOptions {
 inline std::uint64_t BenchDatasetBytes(std::uint64_t megabytes) {
   constexpr std::uint64_t kRoomForOneDescription = 64 * 1024;
   return std::min(megabytes * 1000 * 1000, kDatasetSizeLimit - kRoomForOneDescription);
+}
+
+// Generates the benchmark's dataset of `megabytes` at `path` (its folder made first), saying so.
+inline GeneratedDataset GenerateBenchDataset(const std::string& path, std::uint64_t megabytes) {
+  const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+  std::filesystem::create_directories(folder);
+  std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
+  return GenerateDataset(path, BenchDatasetBytes(megabytes));
 }
 
 inline BenchOptions ReadBenchOptions(int argc, char** argv, const char* defaultFolderName) {

@@ -81,8 +81,7 @@ int Run(const char* self, std::uint64_t megabytes, const std::string& folder) {
   const std::string dat = folder + "/bench.dat";
   const std::string ndx = folder + "/bench.ndx";
   const std::string work = folder + "/work.dat";
-  std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
-  const GeneratedDataset made = GenerateDataset(dat, BenchDatasetBytes(megabytes));
+  const GeneratedDataset made = GenerateBenchDataset(dat, megabytes);
   if (!FitsSizeLimit(made.bytes)) throw std::runtime_error("the generated dataset is past the size limit");
   std::printf("%llu bytes, %zu Descriptions\n\n", static_cast<unsigned long long>(made.bytes), made.pids.size());
   TimeShell("cat " + Quoted(dat) + " > /dev/null");  // into the page cache

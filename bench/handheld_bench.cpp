@@ -88,8 +88,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   if (records != static_cast<std::size_t>(kLines)) throw std::runtime_error("a line was not converted");
 
   const std::string dat = folder + "/bench.dat";
-  std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
-  GenerateDataset(dat, BenchDatasetBytes(megabytes));
+  GenerateBenchDataset(dat, megabytes);
   const double text = Best(3, [&] { return SearchText(dat, folder + "/found.txt"); });
   std::printf("positions in text: %zu report lines, %zu HH records, %.3f s (target under %.1f s): %s\n",
               CountLines(folder + "/foundGeoPos.Rpt"), CountLines(folder + "/found.txt"), text, kTextTarget,

@@ -137,8 +137,7 @@ int Run(std::uint64_t megabytes, const std::string& folder) {
   std::filesystem::create_directories(folder);
   const std::string dat = folder + "/bench.dat";
   const std::string ndx = folder + "/bench.ndx";
-  std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
-  const GeneratedDataset made = GenerateDataset(dat, BenchDatasetBytes(megabytes));
+  const GeneratedDataset made = GenerateBenchDataset(dat, megabytes);
   std::printf("%llu bytes, %zu Descriptions\n\n", static_cast<unsigned long long>(made.bytes), made.pids.size());
   ReadWholeFile(dat);  // into the page cache
 

@@ -71,8 +71,7 @@ void WriteFullStore(const std::string& path) {
 int Run(std::uint64_t megabytes, const std::string& folder) {
   std::filesystem::create_directories(folder);
   const std::string dat = folder + "/bench.dat";
-  std::printf("Generating %llu MB in %s ...\n", static_cast<unsigned long long>(megabytes), folder.c_str());
-  const GeneratedDataset made = GenerateDataset(dat, BenchDatasetBytes(megabytes));
+  const GeneratedDataset made = GenerateBenchDataset(dat, megabytes);
 
   testing::FakePlatform fake(folder);
   fake.progress.observer = nullptr;
