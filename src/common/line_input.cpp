@@ -1,14 +1,21 @@
 #include "common/line_input.hpp"
 
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cstring>
 
 #include "common/runtime_failure.hpp"
 #include "common/text.hpp"
 
 namespace benchlog {
-LineReader::LineReader(const std::string& path) : buffer_(kBufferSize) {
+LineReader::LineReader(const std::string& path) {
   file_ = std::fopen(path.c_str(), "rb");
   if (!file_) throw FileNotFound();
+  // A small file is read whole into a buffer one byte longer than itself.
+  struct stat info {};
+  const bool sized = ::fstat(::fileno(file_), &info) == 0 && info.st_size >= 0;
+  buffer_.resize(sized ? std::min(kBufferSize, static_cast<std::size_t>(info.st_size) + 1) : kBufferSize);
 }
 
 LineReader::~LineReader() {

@@ -72,7 +72,6 @@ LineWriter::LineWriter(const std::string& path, Mode mode) : path_(ResolvedTarge
     struct stat old {};
     if (::stat(path_.c_str(), &old) == 0) ::fchmod(fd_, old.st_mode & 07777);  // the old file's permissions
   }
-  buffer_.reserve(kBufferSize);
 }
 
 LineWriter::~LineWriter() {

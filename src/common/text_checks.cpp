@@ -14,16 +14,22 @@ bool MatchesAt(std::string_view text, std::size_t at, std::string_view upperTag)
   return true;
 }
 
-// One left-to-right pass, as a replace does: what the removal joins is not looked at again.
+// One left-to-right pass, as a replace does: what the removal joins is not looked at again. Every
+// tag opens with '<', so the text between two of them is copied whole.
 std::string RemoveIgnoringCase(std::string_view text, std::string_view upperTag) {
   std::string out;
-  for (std::size_t i = 0; i < text.size();) {
-    if (MatchesAt(text, i, upperTag)) {
-      i += upperTag.size();
+  out.reserve(text.size());
+  std::size_t copied = 0;
+  for (std::size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at)) {
+    if (MatchesAt(text, at, upperTag)) {
+      out.append(text, copied, at - copied);
+      at += upperTag.size();
+      copied = at;
     } else {
-      out += text[i++];
+      ++at;
     }
   }
+  out.append(text, copied);
   return out;
 }
 

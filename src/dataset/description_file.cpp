@@ -1,5 +1,6 @@
 #include "dataset/description_file.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
@@ -37,7 +38,11 @@ std::string GetDescription(const MarkIndex& markIndex, const std::string& datase
   if (length < 1) return "Invalid description Length!";
   OpenFile in(datasetPath, "rb");
   if (!in.file || !SeekTo(in.file, at.start)) throw PathFileAccessError();
-  std::string buffer(static_cast<std::size_t>(length), '\0');
+  // A damaged index can give any length: no more is read than the file holds after the start.
+  const std::uint64_t fileLength = FileLength(datasetPath);
+  const auto start = static_cast<std::uint64_t>(at.start);
+  const std::uint64_t held = start <= fileLength ? fileLength - start + 1 : 0;
+  std::string buffer(std::min(static_cast<std::uint64_t>(length), held), '\0');
   buffer.resize(std::fread(buffer.data(), 1, buffer.size(), in.file));
   text = std::move(buffer);
   return "";

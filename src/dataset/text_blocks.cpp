@@ -1,5 +1,8 @@
 #include "dataset/text_blocks.hpp"
 
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cstring>
 
 #include "common/runtime_failure.hpp"
@@ -11,6 +14,10 @@ TextBlocks::TextBlocks(std::string_view text) : window_(text) {}
 TextBlocks::TextBlocks(const TextFile& file) : blockSize_(file.blockSize) {
   file_ = std::fopen(file.path.c_str(), "rb");
   if (!file_) throw FileNotFound();
+  // A small file needs no block of full size: one byte more than the file reads it whole.
+  struct stat info {};
+  if (::fstat(::fileno(file_), &info) == 0 && info.st_size >= 0)
+    blockSize_ = std::min(blockSize_, static_cast<std::size_t>(info.st_size) + 1);
   try {
     Rewind();
   } catch (...) {

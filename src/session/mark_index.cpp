@@ -1,6 +1,7 @@
 #include "session/mark_index.hpp"
 
 #include <algorithm>
+#include <bitset>
 #include <cstring>
 #include <vector>
 
@@ -62,7 +63,7 @@ const std::string& MarkIndex::Joined() const {
 void MarkIndex::IndexFirstPidPositions() const {
   const std::string& text = Joined();
   firstPidPosition_.clear();
-  std::vector<bool> startsAPid(1 << 16, false);
+  std::bitset<1 << 16> startsAPid;
   for (const auto& e : elements_) {
     if (e.size() < kPidLength) continue;
     firstPidPosition_.emplace(PackPid(e.data()), std::string::npos);
