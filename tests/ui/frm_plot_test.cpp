@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QMenu>
+#include <QPainter>
 #include <QTest>
 
 #include "fakes/fakes.hpp"
@@ -67,6 +68,43 @@ class FrmPlotTest : public QObject {
     bool inked = false;
     for (int x = text.x(); x < text.x() + 40 && !inked; ++x) inked = image.pixelColor(x, text.y() + 6).value() < 128;
     QVERIFY(inked);
+  }
+
+  // Labels stamped into a 32-bit image look as Qt draws them (into a byte-ordered image, which Qt
+  // paints its own way), at one and two device pixels a logical pixel: overlapping, in two sizes
+  // and colours, with code-page bytes, and cut at the target's edge, outside which nothing changes.
+  void StampedLabelsLookAsQtDrawsThem() {
+    PlotCanvas canvas;
+    canvas.SetScale(0, 300, 400, 0);
+    const auto print = [&](double x, double y, double size, std::uint32_t color, const char* text) {
+      canvas.currentX = x, canvas.currentY = y, canvas.fontSize = size, canvas.foreColor = color;
+      canvas.Print(text);
+    };
+    print(10, 290, 8, kColorBlack, "FY3210 W 21 \xb0 gjpqy");
+    print(20, 285, 14, kColorRed, "OVERLAP @#%&");
+    print(250, 120, 10, kColorBlue, "CUT AT THE EDGE");
+    for (const double ratio : {1.0, 2.0}) {
+      QImage stamped(int(400 * ratio), int(300 * ratio), QImage::Format_RGB32);
+      QImage drawn(stamped.size(), QImage::Format_RGBX8888);
+      long inked = 0;
+      int worst = 0;
+      for (QImage* image : {&stamped, &drawn}) {
+        image->fill(QColor(200, 220, 240));
+        image->setDevicePixelRatio(ratio);
+        QPainter painter(image);
+        qt::PaintPlot(painter, canvas, QRectF(0, 0, 300, 250));
+      }
+      const QImage reference = drawn.convertToFormat(QImage::Format_RGB32);
+      for (int y = 0; y < stamped.height(); ++y)
+        for (int x = 0; x < stamped.width(); ++x) {
+          const QRgb a = stamped.pixel(x, y), b = reference.pixel(x, y);
+          worst = std::max({worst, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+          inked += qGray(a) < 128;
+        }
+      QVERIFY2(worst <= 2, qPrintable(QString("ratio %1: a channel differs by %2").arg(ratio).arg(worst)));
+      QVERIFY(inked > 300 * ratio * ratio);
+      QCOMPARE(stamped.pixelColor(int(310 * ratio), int(122 * ratio)), QColor(200, 220, 240));
+    }
   }
 
   // Point numbers and PIDs turn each other off in the window and the model; a label turned off so

@@ -8,8 +8,10 @@
 #include <array>
 #include <cmath>
 #include <map>
+#include <optional>
 
 #include "platform/qt/text_codec.hpp"
+#include "plot/ui/glyph_stamps.hpp"
 
 namespace benchlog::qt {
 namespace {
@@ -45,19 +47,28 @@ class Face {
     raw_ = QRawFont::fromFont(font);
     ratio_ = device ? device->devicePixelRatioF() : 1;
     ascent_ = raw_.ascent();
+    stamps_.emplace(raw_, ratio_);
   }
-  // Adds the glyphs of `text` with its top left at `at` to a run being gathered.
-  void Add(const std::string& text, QPointF at, QVector<quint32>& glyphs, QVector<QPointF>& positions) {
+  // Calls place(byte, glyph index, origin) for each character of `text` with its top left at `at`.
+  template <typename Place>
+  void Lay(const std::string& text, QPointF at, Place place) {
     // On whole device pixels: the glyph cache then holds one image a glyph, not one per fraction.
     double x = at.x();
     const double y = std::round((at.y() + ascent_) * ratio_) / ratio_;
     for (const char c : text) {
       const Glyph& g = GlyphOf(static_cast<unsigned char>(c));
-      glyphs.push_back(g.index);
-      positions.push_back(QPointF(std::round(x * ratio_) / ratio_, y));
+      place(static_cast<unsigned char>(c), g.index, QPointF(std::round(x * ratio_) / ratio_, y));
       x += g.advance;
     }
   }
+  // Adds the glyphs of `text` with its top left at `at` to a run being gathered.
+  void Add(const std::string& text, QPointF at, QVector<quint32>& glyphs, QVector<QPointF>& positions) {
+    Lay(text, at, [&](unsigned char, quint32 index, QPointF origin) {
+      glyphs.push_back(index);
+      positions.push_back(origin);
+    });
+  }
+  GlyphStamps& Stamps() { return *stamps_; }
   const QRawFont& Raw() const { return raw_; }
 
  private:
@@ -82,6 +93,7 @@ class Face {
   double ascent_ = 0;
   double ratio_ = 1;
   std::array<Glyph, 256> glyphs_{};
+  std::optional<GlyphStamps> stamps_;
 };
 
 // Paints the primitives in their order, gathering each run of neighbours of one kind, colour, mode
@@ -90,7 +102,10 @@ class Painter {
  public:
   Painter(QPainter& painter, const PlotCanvas& canvas, const QRectF& target)
       : painter_(painter), map_(MappingOf(canvas.Scale(), target, painter.device())),
-        family_(ToQt(canvas.fontName)), pen_(ColorOf(kColorBlack), 0) {}
+        family_(ToQt(canvas.fontName)), pen_(ColorOf(kColorBlack), 0), image_(StampableImage(painter)),
+        clip_(painter.deviceTransform().mapRect(target).toAlignedRect()) {
+    if (image_) clip_ &= image_->rect();
+  }
 
   void Paint(const std::vector<PlotPrimitive>& list) {
     for (std::size_t i = 0; i < list.size();) {
@@ -177,8 +192,33 @@ class Painter {
     }
   }
 
+  // The image the labels can be stamped into: painted without a world transform, and plain
+  // drawing (inverted texts go through QPainter).
+  static QImage* StampableImage(QPainter& painter) {
+    QPaintDevice* device = painter.device();
+    if (!device || device->devType() != QInternal::Image || !painter.worldTransform().isIdentity()) return nullptr;
+    const double ratio = device->devicePixelRatioF();
+    if (painter.deviceTransform() != QTransform::fromScale(ratio, ratio)) return nullptr;
+    auto* image = static_cast<QImage*>(device);
+    return GlyphStamps::Suits(*image) ? image : nullptr;
+  }
+
+  void StampTexts(Face& face, const std::vector<PlotPrimitive>& list, std::size_t from, std::size_t to) {
+    const QRgb color = ColorOf(color_).rgb();
+    GlyphStamps& stamps = face.Stamps();
+    for (std::size_t i = from; i < to; ++i) {
+      face.Lay(list[i].text, map_(list[i].x1, list[i].y1), [&](unsigned char byte, quint32 index, QPointF origin) {
+        // The origin lies on a device pixel already.
+        const auto x = static_cast<int>(std::floor(origin.x() * map_.ratio + 0.5));
+        const auto y = static_cast<int>(std::floor(origin.y() * map_.ratio + 0.5));
+        stamps.Stamp(*image_, byte, index, x, y, color, clip_);
+      });
+    }
+  }
+
   void PaintTexts(const std::vector<PlotPrimitive>& list, std::size_t from, std::size_t to) {
     Face& face = FaceOf(list[from].fontSize);
+    if (image_ && mode_ == DrawMode::Copy) return StampTexts(face, list, from, to);
     QVector<quint32> glyphs;
     QVector<QPointF> positions;
     for (std::size_t i = from; i < to; ++i) {
@@ -209,6 +249,8 @@ class Painter {
   QVector<QLineF> lines_;
   QVector<QRectF> boxes_;
   std::map<double, Face> faces_;
+  QImage* image_;  // where labels are stamped, or null
+  QRect clip_;     // the target in device pixels
 };
 
 }  // namespace
