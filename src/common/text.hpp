@@ -18,6 +18,7 @@ std::string Right(std::string_view s, std::size_t length);
 
 // Trimming removes blanks (the space character) only, as the dataset format pads with blanks.
 std::string Trim(std::string_view s);
+std::string_view TrimView(std::string_view s);  // the same, as a part of `s`
 std::string LTrim(std::string_view s);
 std::string RTrim(std::string_view s);
 bool IsBlank(std::string_view s);  // empty or all blanks

@@ -9,16 +9,16 @@
 namespace benchlog {
 namespace {
 
-std::string KeyOf(std::string_view trimmedLine) { return Left(trimmedLine, 2); }
+std::string_view KeyOf(std::string_view trimmedLine) { return trimmedLine.substr(0, 2); }
 
 }  // namespace
 
 std::vector<std::string> CountryStateList(const std::string& countryPath) {
   std::vector<std::string> states;
   LineReader reader(countryPath);
-  std::string line;
+  std::string_view line;
   while (reader.ReadLine(line)) {
-    const std::string trimmed = Trim(line);
+    const std::string_view trimmed = TrimView(line);
     if (KeyOf(trimmed) == "RB") states.push_back(Mid(trimmed, 5));
   }
   return states;
@@ -27,15 +27,15 @@ std::vector<std::string> CountryStateList(const std::string& countryPath) {
 std::vector<std::string> CountryCountyList(const std::string& countryPath, std::string_view stateCode) {
   std::vector<std::string> counties;
   LineReader reader(countryPath);
-  std::string line;
+  std::string_view line;
   bool inState = false;
   while (reader.ReadLine(line)) {
-    const std::string trimmed = Trim(line);
-    const std::string key = KeyOf(trimmed);
+    const std::string_view trimmed = TrimView(line);
+    const std::string_view key = KeyOf(trimmed);
     if (inState) {
       if (key == "RA" || key == "RB") break;
       if (key == "RC") counties.push_back(Mid(trimmed, 9));
-    } else if (key == "RB" && Mid(trimmed, 5, 2) == stateCode) {
+    } else if (key == "RB" && trimmed.substr(std::min<std::size_t>(4, trimmed.size()), 2) == stateCode) {
       inState = true;
     }
   }
@@ -48,14 +48,14 @@ FipsIndex FipsIndex::FromText(std::string_view text) {
   FipsIndex index;
   index.stateIndex_ = Space(6);
   bool inUs = false;
-  for (const auto& raw : SplitCrLf(text)) {
-    const std::string trimmed = Trim(raw);
-    const std::string key = KeyOf(trimmed);
+  for (const std::string_view raw : SplitViews(text, "\r\n")) {
+    const std::string_view trimmed = TrimView(raw);
+    const std::string_view key = KeyOf(trimmed);
     if (key == "RA") inUs = Mid(trimmed, 5, 2) == "US";
     if (key == "RB" && inUs) {
       index.stateIndex_ += Mid(trimmed, 5, 2) + Format(static_cast<double>(index.lines_.size()), "0000") + " ";
     }
-    index.lines_.push_back(trimmed);
+    index.lines_.emplace_back(trimmed);
   }
   return index;
 }
