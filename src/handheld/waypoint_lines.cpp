@@ -35,8 +35,8 @@ std::string PackedDegrees(std::string_view degrees, bool zeroFill) {
   return text;
 }
 
-std::string Field(const std::vector<std::string>& fields, std::size_t index) {
-  return index < fields.size() ? fields[index] : std::string();
+std::string_view Field(const std::vector<std::string_view>& fields, std::size_t index) {
+  return index < fields.size() ? fields[index] : std::string_view();
 }
 
 }  // namespace
@@ -62,8 +62,8 @@ bool GpxReader::ReadLine(std::string_view rawLine, std::string& record) {
 }
 
 GarminReader::Result GarminReader::ReadLine(std::string_view line, std::string& record) {
-  const std::vector<std::string> fields = Split(line, "\t");
-  const std::string& kind = fields[0];
+  const std::vector<std::string_view> fields = SplitViews(line, "\t");
+  const std::string_view kind = fields[0];
   if (kind == "Grid") grid_ = Field(fields, 1);
   if (kind == "Datum") datum_ = Field(fields, 1);
   if (kind == "Header" && Field(fields, 1) == "Name" && Field(fields, 3) == "Type" && Field(fields, 4) == "Position")
@@ -73,12 +73,12 @@ GarminReader::Result GarminReader::ReadLine(std::string_view line, std::string& 
   if (grid_ != kGrid) return Result::kInvalidGrid;
   if (datum_ != "NAD83") return Result::kInvalidDatum;
   if (!formatGood_) return Result::kInvalidFormat;
-  const std::string position = Field(fields, 4);
+  const std::string_view position = Field(fields, 4);
   const std::string latitude = ReplaceAll(Left(position, 11), " ", "");
   std::string longitude = ReplaceAll(Mid(position, 13), " ", "");
   if (longitude.size() == 9) longitude.insert(1, "0");
-  const std::string name = Field(fields, 1);
-  const std::string comment = Field(fields, 2);
+  const std::string name(Field(fields, 1));
+  const std::string comment(Field(fields, 2));
   // A comment that the receiver filled with its date tells nothing of the mark.
   if (name.size() != 6 || IsDate(Left(comment, 9))) return Result::kNone;
   record = FormatHhRecord({name, UCase(comment), latitude, longitude, "HH2", agency_});
